@@ -1,0 +1,40 @@
+#pragma once
+// Forward declarations of the library's classes, so that headers name each other
+// without pulling each other in.
+
+class CInstanceMonitor;
+class CVXCriticalSection;
+template <class T> class CSmartPtr;
+
+namespace VxXmlLib16 {
+class CVxException;
+class CXmlObjectBase;
+class CXmlGeneratedClass;
+class IEventSink;
+class CSerializationContext;
+class CNamespaceAliasMap;
+class CXmlWriter;
+class CXmlTextWriter;
+class CStringBuffer;
+class CTextStream;
+class CFileTextStream;
+class CBinaryStream;
+class CFileBinaryStream;
+class CXmlDocument;
+class CXmlElement;
+class CXmlAttribute;
+class CElement;
+class CAttribute;
+class CElementCol;
+class CAttributeCol;
+class CXmlCollectionBase;
+class CBinaryData;
+class CBigInteger;
+class CDecimal;
+class CDateTime;
+class CDateTimeSpan;
+class CJsonContext;
+class CFastInfosetContext;
+class CPrimitiveRestrictions;
+struct VxVariant;
+} // namespace VxXmlLib16
