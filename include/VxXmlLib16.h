@@ -19,3 +19,4 @@
 #include "XmlTextWriter.h"
 #include "WhitespaceUtils.h"
 #include "Conversions.h"
+#include "LocalText.h"
