@@ -17,3 +17,4 @@
 #include "TextStream.h"
 #include "XmlWriter.h"
 #include "XmlTextWriter.h"
+#include "BinaryData.h"
