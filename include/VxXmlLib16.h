@@ -13,6 +13,7 @@
 #include "SerializationContext.h"
 #include "XmlObjectBase.h"
 #include "XmlCollectionBase.h"
+#include "XmlCollection.h"
 #include "StringBuffer.h"
 #include "TextStream.h"
 #include "XmlWriter.h"
