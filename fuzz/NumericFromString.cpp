@@ -8,8 +8,7 @@
 #include <cstring>
 #include <string>
 
-#include "Conversions.h"
-#include "Exceptions.h"
+#include "FuzzInput.h"
 
 using namespace VxXmlLib16;
 
@@ -51,12 +50,9 @@ void AgreesWithCLibrary(const std::string &text, Read read, Reference reference)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    if (size == 0)
-        return 0;
-    const auto rule = static_cast<Rule>((data[0] >> 4) % 4);
-    const std::string text(reinterpret_cast<const char *>(data + 1), size - 1);
-    try {
-        switch (data[0] % 12) {
+    return RunOnText(data, size, [](std::uint8_t selector, const std::string &text) {
+        const Rule rule = RuleOf(selector, 4);
+        switch (selector % 12) {
         case 0:
             RoundTrip<char>(text, rule, CConversions::i1FromString, CConversions::i1ToString);
             break;
@@ -96,7 +92,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
             AgreesWithCLibrary<unsigned long long>(text, CConversions::ui8FromString, std::strtoull);
             break;
         }
-    } catch (const CVxException &) {
-    }
-    return 0;
+    });
 }
