@@ -26,7 +26,7 @@ void RoundTrip(const std::string &text, Rule rule, Read read, Print print)
 
 // Without a rule and without NUL bytes the text goes to the C library unchanged.
 template <class T, class Read, class Reference>
-void AgreesWithCLibrary(const std::string &text, Read read, Reference reference)
+void AgreesWithCLibrary(const std::string &text, const char *type, Read read, Reference reference)
 {
     if (text.empty() || std::memchr(text.data(), 0, text.size()))
         return;
@@ -40,8 +40,9 @@ void AgreesWithCLibrary(const std::string &text, Read read, Reference reference)
         if (rangeError || !complete || value != expected)
             std::abort();
     } catch (const CVxInvalidValueException &e) {
-        const bool saysRange = e.GetMessage().find("is to large to fit") != std::string::npos;
-        if (saysRange != rangeError || (!rangeError && complete))
+        const std::string expectedMessage = "The value [" + text +
+                                            (rangeError ? "] is to large to fit in a " : "] can not be converted to a ") + type;
+        if (e.GetMessage() != expectedMessage || (!rangeError && complete))
             std::abort();
     }
 }
@@ -88,8 +89,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
             CConversions::charFromString(text, rule);
             break;
         default:
-            AgreesWithCLibrary<long long>(text, CConversions::i8FromString, std::strtoll);
-            AgreesWithCLibrary<unsigned long long>(text, CConversions::ui8FromString, std::strtoull);
+            AgreesWithCLibrary<long long>(text, "i8", CConversions::i8FromString, std::strtoll);
+            AgreesWithCLibrary<unsigned long long>(text, "ui8", CConversions::ui8FromString, std::strtoull);
             break;
         }
     });
