@@ -17,3 +17,6 @@
 #include "TextStream.h"
 #include "XmlWriter.h"
 #include "XmlTextWriter.h"
+#include "SystemTime.h"
+#include "DateTime.h"
+#include "DateTimeSpan.h"
