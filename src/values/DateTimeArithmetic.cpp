@@ -55,6 +55,29 @@ int LastDay(long long month, short year)
     return DaysInMonth[month - 1];
 }
 
+// Whole calendar cycles skipped at once, which lands on the same month and day as walking
+// month by month would. 400 years hold 146097 days wherever the year field does not wrap;
+// 65536 years, one full turn of the 16-bit year field, hold every leap year of the field
+// once, so such a turn returns to the same year.
+std::int64_t SkipWholeCycles(std::int64_t days, short &year)
+{
+    static const std::int64_t daysPerFieldTurn = [] {
+        std::int64_t total = 0;
+        for (int y = std::numeric_limits<short>::min(); y <= std::numeric_limits<short>::max(); ++y)
+            total += IsLeapYear(y) ? 366 : 365;
+        return total;
+    }();
+    constexpr std::int64_t daysPer400Years = 146097;
+    days %= daysPerFieldTurn;
+    std::int64_t cycles = (days < 0 ? -days : days) / daysPer400Years;
+    const int room = days < 0 ? year - std::numeric_limits<short>::min() : std::numeric_limits<short>::max() - year;
+    if (cycles > room / 400)
+        cycles = room / 400;
+    const std::int64_t direction = days < 0 ? -1 : 1;
+    year = static_cast<short>(year + direction * 400 * cycles);
+    return days - direction * daysPer400Years * cycles;
+}
+
 struct FieldValues
 {
     long long year, month, day, hour, minute;
@@ -200,6 +223,12 @@ void CDateTime::AddDateTimeSpan(const CDateTimeSpan &span)
     long long month = m_month;
     std::int64_t day = m_day;
     while (days != 0) {
+        const bool regular = month >= 1 && month <= 12 && day >= 1 && day <= LastDay(month, m_year);
+        if (regular && (days >= 146097 || days <= -146097)) {
+            days = SkipWholeCycles(days, m_year);
+            if (days == 0)
+                break;
+        }
         if (days < 0) {
             if (day - 1 < -days) {
                 days += day;
