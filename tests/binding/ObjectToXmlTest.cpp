@@ -1,0 +1,231 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "Exceptions.h"
+#include "SerializationContext.h"
+#include "TestSupport.h"
+#include "TreeObject.h"
+#include "XmlCollectionBase.h"
+#include "XmlWriter.h"
+
+using namespace VxXmlLib16;
+using VxTest::CTreeObject;
+using VxTest::ExpectFailure;
+
+namespace {
+
+const std::string XmlNs = "http://www.w3.org/XML/1998/namespace";
+
+// A document that uses every part of the text form at once: nested elements, attributes
+// with and without namespaces, a default namespace, aliases from the context's map (the
+// XML namespace among them, never declared), generated aliases with their scope, a
+// processing instruction and text that needs escaping.
+class SampleDocument : public ::testing::Test
+{
+protected:
+    SampleDocument()
+    {
+        context.SetDefaultNamespaceURI("urn:d");
+        context.GetNamespaceAliases().Add("zz", "urn:zz");
+        context.GetNamespaceAliases().Add("ex", "urn:ex");
+        context.GetNamespaceAliases().Add("xml", XmlNs.c_str());
+        context.GetProcessingInstructions().push_back("<?xml-stylesheet href=\"s.xsl\"?>");
+
+        root->AddAttribute("id", "7").AddAttribute("lang", "a<b&\"c\"", "urn:ex").AddAttribute("lang", "en", XmlNs);
+        root->AddChild(new CTreeObject("title", "urn:d")).SetText("Fish & Chips > \"x\"\r\nline2");
+        CTreeObject &item = root->AddChild(new CTreeObject("item", "urn:ex"));
+        item.AddAttribute("flag", "yes", "urn:other");
+        item.AddChild(new CTreeObject("note", "urn:d"));
+        item.AddChild(new CTreeObject("sub", "urn:other")).SetText("1");
+        root->AddChild(new CTreeObject("local"));
+        root->AddChild(new CTreeObject("other", "urn:new"));
+    }
+
+    static std::string Lines(std::string text, const std::string &eol)
+    {
+        for (std::size_t at = text.find('\n'); at != std::string::npos; at = text.find('\n', at + eol.size()))
+            text.replace(at, 1, eol);
+        return text;
+    }
+
+    CSerializationContext context;
+    CSmartPtr<CTreeObject> root = new CTreeObject("doc", "urn:d");
+};
+
+const char *const Prolog = "<?xml version=\"1.0\"?>\n"
+                           "<?xml-stylesheet href=\"s.xsl\"?>\n\n";
+const char *const RootTag = "<doc xmlns=\"urn:d\" xmlns:ex=\"urn:ex\" xmlns:zz=\"urn:zz\" id=\"7\" "
+                            "ex:lang=\"a&lt;b&amp;&quot;c&quot;\" xml:lang=\"en\">";
+
+} // namespace
+
+TEST_F(SampleDocument, FormattedWithLineFeedsAndCrLf)
+{
+    const std::string expected = std::string(Prolog) + RootTag + "\n"
+                                 "\t<title>Fish &amp; Chips &gt; \"x\"\nline2</title>\n"
+                                 "\t<ex:item xmlns:AA=\"urn:other\" AA:flag=\"yes\">\n"
+                                 "\t\t<note/>\n"
+                                 "\t\t<AA:sub>1</AA:sub>\n"
+                                 "\t</ex:item>\n"
+                                 "\t<local/>\n"
+                                 "\t<AA:other xmlns:AA=\"urn:new\"/>\n"
+                                 "</doc>\n";
+    const std::string lf = root->ToXml(true, true, EOLType_LF, context);
+    EXPECT_EQ(lf, expected);
+    EXPECT_EQ(VxTest::ExpatCheck(lf), "");
+
+    const std::string crlf = root->ToXml(true, true, EOLType_CRLF, context);
+    EXPECT_EQ(crlf, Lines(expected, "\r\n"));
+    EXPECT_EQ(VxTest::ExpatCheck(crlf), "");
+}
+
+TEST_F(SampleDocument, UnformattedKeepsLineEndsOnlyInTheProlog)
+{
+    const std::string expected = std::string(Prolog) + RootTag +
+                                 "<title>Fish &amp; Chips &gt; \"x\"\nline2</title>"
+                                 "<ex:item xmlns:AA=\"urn:other\" AA:flag=\"yes\"><note/><AA:sub>1</AA:sub></ex:item>"
+                                 "<local/><AA:other xmlns:AA=\"urn:new\"/></doc>";
+    const std::string lf = root->ToXml(true, false, EOLType_LF, context);
+    EXPECT_EQ(lf, expected);
+    EXPECT_EQ(VxTest::ExpatCheck(lf), "");
+
+    const std::string crlf = root->ToXml(true, false, EOLType_CRLF, context);
+    EXPECT_EQ(crlf, Lines(expected, "\r\n"));
+    EXPECT_EQ(VxTest::ExpatCheck(crlf), "");
+}
+
+TEST_F(SampleDocument, ContextIndentCharsAndNoHeader)
+{
+    context.SetIndentChars("  ");
+    context.GetProcessingInstructions().clear();
+    const std::string text = root->ToXml(false, true, EOLType_LF, context);
+    const std::string start = std::string(RootTag) + "\n  <title>";
+    EXPECT_EQ(text.substr(0, start.size()), start);
+    EXPECT_NE(text.find("\n    <AA:sub>1</AA:sub>\n"), std::string::npos) << text;
+}
+
+TEST(ObjectToXml, DefaultArgumentsWriteAFormattedDocumentWithHeader)
+{
+    CSmartPtr<CTreeObject> root = new CTreeObject("r");
+    root->AddChild(new CTreeObject("c"));
+    EXPECT_EQ(root->ToXml(), "<?xml version=\"1.0\"?>\n<r>\n\t<c/>\n</r>\n");
+}
+
+TEST(ObjectToXml, InvalidEolTypeWritesNothing)
+{
+    CSmartPtr<CTreeObject> root = new CTreeObject("r");
+    ExpectFailure<CVxException>(
+        [&] { root->ToXml(true, true, static_cast<EOLType>(2), CSerializationContext::GetDefaultContext()); },
+        "Invalid EOL type.");
+}
+
+namespace {
+
+// Leaves its element open, as a faulty writer user would.
+class Unclosed final : public CXmlObjectBase
+{
+public:
+    CXmlObjectBase *GetBase() override { return this; }
+    std::string GetTargetNamespace() const override { return ""; }
+    std::string GetNamespace() const override { return ""; }
+
+protected:
+    void ToXml_Int(CXmlWriter *writer, bool, const char *, const CSerializationContext &, bool) const override
+    {
+        writer->StartElement("open", "");
+    }
+    CXmlElement *FromXml_Int(CXmlElement *, CXmlElement *firstChild, const CSerializationContext &, bool) override
+    {
+        return firstChild;
+    }
+};
+
+// The smallest real collection: its events can be fired by hand.
+class Events final : public CXmlCollectionBase
+{
+public:
+    Events() : CXmlCollectionBase("event", "urn:e", 0, -1) {}
+    int GetCount() const override { return 0; }
+    void Clear() override {}
+    void Remove(int index) override
+    {
+        FireOnCollectionRemove(index);
+        FireOnCollectionRemoveComplete(index);
+    }
+    using CXmlCollectionBase::FireOnCollectionAdd;
+    using CXmlCollectionBase::FireOnCollectionAddComplete;
+    using CXmlCollectionBase::FireOnCollectionChange;
+
+protected:
+    void ToXml_Int(CXmlWriter *, bool, const char *, const CSerializationContext &, bool) const override {}
+    CXmlElement *FromXml_Int(CXmlElement *, CXmlElement *firstChild, const CSerializationContext &, bool) override
+    {
+        return firstChild;
+    }
+};
+
+struct Recorded
+{
+    CXmlObjectBase *source;
+    IEventSink::MsgType type;
+    void *data;
+    int index; // what an int payload held at the time of the call
+};
+
+class Recorder : public IEventSink
+{
+public:
+    void OnEvent(CXmlObjectBase *source, MsgType type, void *data) override
+    {
+        const bool indexed = type == MsgType_CollectionRemove || type == MsgType_CollectionRemoveComplete;
+        events.push_back({source, type, data, indexed && data ? *static_cast<int *>(data) : -1});
+    }
+    std::vector<Recorded> events;
+};
+
+} // namespace
+
+TEST(ObjectToXml, ElementLeftOpenFailsAtTheEnd)
+{
+    CSmartPtr<Unclosed> object = new Unclosed;
+    ExpectFailure<CVxException>([&] { object->ToXml(); }, "An Element has not been closed.");
+}
+
+TEST(ObjectToXml, CollectionIsNoTopLevelObject)
+{
+    CSmartPtr<Events> collection = new Events;
+    ExpectFailure<CVxException>([&] { collection->ToXml(); },
+                                "CXmlCollectionBase::GetTargetNamespace Should not be used from within a "
+                                "Collection (program logic error)");
+}
+
+TEST(CollectionEvents, EachEventCarriesItsTypeAndPayload)
+{
+    CSmartPtr<Events> collection = new Events;
+    Recorder recorder;
+    collection->AddEventListener(&recorder);
+    int item = 0;
+    collection->FireOnCollectionChange();
+    collection->FireOnCollectionAdd(&item);
+    collection->FireOnCollectionAddComplete(&item);
+    collection->Remove(5);
+    collection->Remove(-1);
+
+    const std::vector<std::pair<IEventSink::MsgType, int>> expected = {
+        {IEventSink::MsgType_CollectionChange, -1},    {IEventSink::MsgType_CollectionAdd, -1},
+        {IEventSink::MsgType_CollectionAddComplete, -1}, {IEventSink::MsgType_CollectionRemove, 5},
+        {IEventSink::MsgType_CollectionRemoveComplete, 5}, {IEventSink::MsgType_CollectionRemove, -1},
+        {IEventSink::MsgType_CollectionRemoveComplete, -1}};
+    ASSERT_EQ(recorder.events.size(), expected.size());
+    for (std::size_t i = 0; i < expected.size(); ++i) {
+        SCOPED_TRACE(i);
+        EXPECT_EQ(recorder.events[i].source, static_cast<CXmlObjectBase *>(collection));
+        EXPECT_EQ(recorder.events[i].type, expected[i].first);
+        EXPECT_EQ(recorder.events[i].index, expected[i].second);
+    }
+    EXPECT_EQ(recorder.events[0].data, nullptr);
+    EXPECT_EQ(recorder.events[1].data, &item);
+    EXPECT_EQ(recorder.events[2].data, &item);
+    EXPECT_EQ(recorder.events[5].data, nullptr); // index -1 passes no pointer
+}
