@@ -42,11 +42,20 @@ protected:
         root->AddChild(new CTreeObject("other", "urn:new"));
     }
 
-    static std::string Lines(std::string text, const std::string &eol)
+    // Writes the document with both line ends: the text must be the expected one, with
+    // its line feeds turned into CR LF for the second, and must parse.
+    void ExpectWrittenAs(bool formatted, const std::string &expectedWithLf)
     {
-        for (std::size_t at = text.find('\n'); at != std::string::npos; at = text.find('\n', at + eol.size()))
-            text.replace(at, 1, eol);
-        return text;
+        std::string expectedWithCrLf = expectedWithLf;
+        for (std::size_t at = 0; (at = expectedWithCrLf.find('\n', at)) != std::string::npos; at += 2)
+            expectedWithCrLf.replace(at, 1, "\r\n");
+        const std::pair<EOLType, std::string> cases[] = {{EOLType_LF, expectedWithLf},
+                                                         {EOLType_CRLF, expectedWithCrLf}};
+        for (const auto &[eol, expected] : cases) {
+            const std::string text = root->ToXml(true, formatted, eol, context);
+            EXPECT_EQ(text, expected);
+            EXPECT_EQ(VxTest::ExpatCheck(text), "");
+        }
     }
 
     CSerializationContext context;
@@ -71,13 +80,7 @@ TEST_F(SampleDocument, FormattedWithLineFeedsAndCrLf)
                                  "\t<local/>\n"
                                  "\t<AA:other xmlns:AA=\"urn:new\"/>\n"
                                  "</doc>\n";
-    const std::string lf = root->ToXml(true, true, EOLType_LF, context);
-    EXPECT_EQ(lf, expected);
-    EXPECT_EQ(VxTest::ExpatCheck(lf), "");
-
-    const std::string crlf = root->ToXml(true, true, EOLType_CRLF, context);
-    EXPECT_EQ(crlf, Lines(expected, "\r\n"));
-    EXPECT_EQ(VxTest::ExpatCheck(crlf), "");
+    ExpectWrittenAs(true, expected);
 }
 
 TEST_F(SampleDocument, UnformattedKeepsLineEndsOnlyInTheProlog)
@@ -86,13 +89,7 @@ TEST_F(SampleDocument, UnformattedKeepsLineEndsOnlyInTheProlog)
                                  "<title>Fish &amp; Chips &gt; \"x\"\nline2</title>"
                                  "<ex:item xmlns:AA=\"urn:other\" AA:flag=\"yes\"><note/><AA:sub>1</AA:sub></ex:item>"
                                  "<local/><AA:other xmlns:AA=\"urn:new\"/></doc>";
-    const std::string lf = root->ToXml(true, false, EOLType_LF, context);
-    EXPECT_EQ(lf, expected);
-    EXPECT_EQ(VxTest::ExpatCheck(lf), "");
-
-    const std::string crlf = root->ToXml(true, false, EOLType_CRLF, context);
-    EXPECT_EQ(crlf, Lines(expected, "\r\n"));
-    EXPECT_EQ(VxTest::ExpatCheck(crlf), "");
+    ExpectWrittenAs(false, expected);
 }
 
 TEST_F(SampleDocument, ContextIndentCharsAndNoHeader)
