@@ -96,8 +96,6 @@ TEST(Exceptions, ConversionBetweenKindsKeepsMessagePathAndInner)
     const CVxInvalidStateException state(plain);
     EXPECT_EQ(state.GetPath(), "/p");
     EXPECT_EQ(state.GetFullMessage(), plain.GetFullMessage());
-    const CVxInvalidNamespaceException space(plain);
-    EXPECT_EQ(space.GetMessage(), "m\nPath: /p");
 }
 
 TEST(Exceptions, AssignmentKeepsTheTargetPath)

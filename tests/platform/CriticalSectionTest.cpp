@@ -56,20 +56,3 @@ TEST(CriticalSection, CopyIsALockOfItsOwn)
     EXPECT_TRUE(OtherThreadGetsIn(assigned));
     EXPECT_FALSE(OtherThreadGetsIn(source));
 }
-
-TEST(CriticalSection, SerialisesConcurrentUpdates)
-{
-    CVXCriticalSection lock;
-    long counter = 0;
-    auto work = [&] {
-        for (int i = 0; i < 20000; ++i) {
-            std::lock_guard<CVXCriticalSection> guard(lock);
-            std::lock_guard<CVXCriticalSection> again(lock);
-            ++counter;
-        }
-    };
-    std::thread a(work), b(work);
-    a.join();
-    b.join();
-    EXPECT_EQ(counter, 40000);
-}

@@ -49,17 +49,6 @@ TEST(NamespaceAliasMap, IndexingLookupEntersUnknownUris)
     EXPECT_TRUE(map.DoesAliasExist(""));
 }
 
-TEST(NamespaceAliasMap, CopiesAreIndependent)
-{
-    CNamespaceAliasMap original;
-    original.Add("a", "urn:a");
-    CNamespaceAliasMap copy(original);
-    copy.Add("b", "urn:a");
-    EXPECT_EQ(original.GetAliasFromNamespace("urn:a"), "a");
-    original = copy;
-    EXPECT_EQ(original.GetAliasFromNamespace("urn:a"), "b");
-}
-
 TEST(NamespaceAliasMap, BadArgumentsFailCleanly)
 {
     CNamespaceAliasMap map;

@@ -4,7 +4,6 @@
 #include <string>
 
 #include "StringBuffer.h"
-#include "TextStream.h"
 
 using namespace VxXmlLib16;
 
@@ -76,16 +75,3 @@ TEST(StringBuffer, ResetKeepsASingleBlockForReuse)
     EXPECT_STREQ(buffer.GetText(), "z");
 }
 
-TEST(TextStream, OpenClearsAndEncodingIsKept)
-{
-    CTextStream stream(XmlEncoding_UTF16);
-    stream.Append("abc");
-    stream.Append('d');
-    stream.Append(std::string("ef"));
-    EXPECT_EQ(stream.GetLength(), 6u);
-    EXPECT_STREQ(stream.GetText(), "abcdef");
-    stream.Open();
-    EXPECT_EQ(stream.GetLength(), 0u);
-    EXPECT_EQ(stream.GetEncoding(), XmlEncoding_UTF16);
-    EXPECT_EQ(CTextStream().GetEncoding(), XmlEncoding_None);
-}
