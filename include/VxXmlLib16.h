@@ -17,3 +17,5 @@
 #include "TextStream.h"
 #include "XmlWriter.h"
 #include "XmlTextWriter.h"
+#include "BigInteger.h"
+#include "Decimal.h"
