@@ -493,8 +493,7 @@ void CBigInteger::BuildDWORDLONG(unsigned long long value, Digits &digits)
 void CBigInteger::BuildDouble(double value, Digits &digits)
 {
     if (std::isinf(value))
-        throw CVxOverFlowException(FormatString("ERROR: Value out of bound of BigInteger [%s].",
-                                                value < 0 ? "-INF" : "INF"));
+        throw CVxOverFlowException("ERROR: Infinite value out of bound of BigInteger.");
     digits.clear();
     value = std::ceil(value - 0.5);
     if (value == 0.0) {
