@@ -1,0 +1,236 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "Exceptions.h"
+#include "SerializationContext.h"
+#include "XmlCollection.h"
+
+using namespace VxXmlLib16;
+
+namespace {
+
+class Item : public CXmlObjectBase
+{
+public:
+    explicit Item(std::string name, int *destroyed = nullptr) : m_name(std::move(name)), m_destroyed(destroyed) {}
+    CXmlObjectBase *GetBase() override { return this; }
+    std::string GetTargetNamespace() const override { return ""; }
+    std::string GetNamespace() const override { return ""; }
+    const std::string &Name() const { return m_name; }
+
+protected:
+    ~Item() override
+    {
+        if (m_destroyed)
+            ++*m_destroyed;
+    }
+    void ToXml_Int(CXmlWriter *, bool, const char *, const CSerializationContext &, bool) const override {}
+    CXmlElement *FromXml_Int(CXmlElement *, CXmlElement *, const CSerializationContext &, bool) override
+    {
+        return nullptr;
+    }
+
+private:
+    std::string m_name;
+    int *m_destroyed;
+};
+
+// Opens the protected list operations, as a generated collection's facade would.
+class ItemCollection : public CXmlCollection
+{
+public:
+    ItemCollection(int minOccurs = 0, int maxOccurs = -1) : CXmlCollection("item", "urn:i", minOccurs, maxOccurs) {}
+    using CXmlCollection::AddAfterItem;
+    using CXmlCollection::AddBeforeItem;
+    using CXmlCollection::AddItemAt;
+    using CXmlCollection::AppendItem;
+    using CXmlCollection::PrependItem;
+    using CXmlObjectBase::GetElementName;
+
+    std::string Names() const
+    {
+        std::string names;
+        for (auto it = begin<Item>(); it != end<Item>(); ++it)
+            names += (*it)->Name();
+        return names;
+    }
+
+protected:
+    void ToXml_Int(CXmlWriter *, bool, const char *, const CSerializationContext &, bool) const override {}
+    CXmlElement *FromXml_Int(CXmlElement *, CXmlElement *, const CSerializationContext &, bool) override
+    {
+        return nullptr;
+    }
+};
+
+// Records each event as text: "Add:a", "AddComplete:a", "Remove:null", "Change".
+class Recorder : public IEventSink
+{
+public:
+    void OnEvent(CXmlObjectBase *source, MsgType type, void *data) override
+    {
+        sources.push_back(source);
+        static const char *names[] = {"Change", "Add", "AddComplete", "Remove", "RemoveComplete"};
+        std::string entry = names[type];
+        if (type == MsgType_CollectionAdd || type == MsgType_CollectionAddComplete)
+            entry += ":" + static_cast<Item *>(static_cast<CXmlObjectBase *>(data))->Name();
+        else if (type != MsgType_CollectionChange)
+            entry += data ? ":" + std::to_string(*static_cast<int *>(data)) : ":null";
+        events.push_back(entry);
+        if (throwOnAdd && type == MsgType_CollectionAdd)
+            throw CVxException("refused");
+    }
+    std::vector<std::string> events;
+    std::vector<CXmlObjectBase *> sources;
+    bool throwOnAdd = false;
+};
+
+template <class F>
+std::string MessageOf(F &&action)
+{
+    try {
+        action();
+    } catch (const CVxInvalidParamException &e) {
+        return e.GetMessage();
+    }
+    return "no exception";
+}
+
+using Events = std::vector<std::string>;
+
+} // namespace
+
+TEST(Collection, InsertionsFireAddLinkCompleteChange)
+{
+    Recorder recorder; // outlives the collection, which fires events as it dies
+    CSmartPtr<ItemCollection> items(new ItemCollection);
+    items->AddEventListener(&recorder);
+    CSmartPtr<Item> b(new Item("b"));
+    items->AppendItem(b);
+    items->PrependItem(new Item("a"));
+    items->AddItemAt(2, new Item("d"));
+    items->AddBeforeItem(b, new Item("x"));
+    items->AddAfterItem(b, new Item("c"));
+    EXPECT_EQ("axbcd", items->Names());
+    EXPECT_EQ(5, items->GetCount());
+    EXPECT_EQ((Events{"Add:b", "AddComplete:b", "Change"}),
+              Events(recorder.events.begin(), recorder.events.begin() + 3));
+    EXPECT_EQ(15u, recorder.events.size());
+    for (CXmlObjectBase *source : recorder.sources)
+        EXPECT_EQ(static_cast<CXmlObjectBase *>(items), source);
+}
+
+TEST(Collection, NullNeighboursAppendOrPrepend)
+{
+    CSmartPtr<ItemCollection> items(new ItemCollection);
+    items->AppendItem(new Item("m"));
+    items->AddBeforeItem(nullptr, new Item("z"));
+    items->AddAfterItem(nullptr, new Item("a"));
+    items->AddItemAt(0, new Item("0"));
+    EXPECT_EQ("0amz", items->Names());
+}
+
+TEST(Collection, IndexFailuresAndTheirEventOrder)
+{
+    Recorder recorder; // outlives the collection, which fires events as it dies
+    CSmartPtr<ItemCollection> items(new ItemCollection);
+    items->AddEventListener(&recorder);
+    EXPECT_EQ("Index 0 is out of range, use 0 - 0", MessageOf([&] { items->Remove(0); }));
+    CSmartPtr<Item> outsider(new Item("o"));
+    EXPECT_EQ("Index out of range", MessageOf([&] { items->AddItemAt(1, outsider); }));
+    EXPECT_TRUE(recorder.events.empty()); // no event before the index test
+
+    items->AppendItem(new Item("a"));
+    EXPECT_EQ("Index -1 is out of range, use 0 - 1", MessageOf([&] { items->Remove(-1); }));
+    recorder.events.clear();
+    // The search for a neighbour comes after the Add event.
+    CSmartPtr<Item> stranger(new Item("s"));
+    EXPECT_EQ("The object was not found in the collection",
+              MessageOf([&] { items->AddBeforeItem(stranger, outsider); }));
+    EXPECT_EQ((Events{"Add:o"}), recorder.events);
+    EXPECT_EQ("a", items->Names());
+}
+
+TEST(Collection, ListenerThrowingOnAddStopsTheInsertion)
+{
+    Recorder recorder; // outlives the collection, which fires events as it dies
+    CSmartPtr<ItemCollection> items(new ItemCollection);
+    recorder.throwOnAdd = true;
+    items->AddEventListener(&recorder);
+    CSmartPtr<Item> item(new Item("a"));
+    EXPECT_THROW(items->AppendItem(item), CVxException);
+    EXPECT_EQ(0, items->GetCount());
+}
+
+TEST(Collection, RemovalReportsNoIndexAndReleasesTheItem)
+{
+    Recorder recorder; // outlives the collection, which fires events as it dies
+    int destroyed = 0;
+    CSmartPtr<ItemCollection> items(new ItemCollection);
+    items->AppendItem(new Item("a", &destroyed));
+    CSmartPtr<Item> kept(new Item("b", &destroyed));
+    items->AppendItem(kept);
+    items->AddEventListener(&recorder);
+    items->AddEventListener(&recorder);
+    items->RemoveEventListener(&recorder); // drops both registrations
+    items->AddEventListener(&recorder);
+
+    items->Remove(0);
+    EXPECT_EQ(1, destroyed);
+    EXPECT_EQ((Events{"Remove:null", "RemoveComplete:null", "Change"}), recorder.events);
+    items->Clear();
+    EXPECT_EQ(1, destroyed); // still held by kept
+    EXPECT_EQ(0, items->GetCount());
+    recorder.events.clear();
+    items->Clear();
+    EXPECT_TRUE(recorder.events.empty());
+}
+
+TEST(Collection, DestructionClearsAndCopiesNeverShareNodes)
+{
+    int destroyed = 0;
+    {
+        CSmartPtr<ItemCollection> items(new ItemCollection);
+        items->AppendItem(new Item("a", &destroyed));
+        items->AppendItem(new Item("b", &destroyed));
+        CSmartPtr<ItemCollection> copy(new ItemCollection(*items));
+        EXPECT_EQ(0, copy->GetCount());
+        EXPECT_EQ("item", copy->GetElementName());
+    }
+    EXPECT_EQ(2, destroyed);
+}
+
+TEST(Collection, CountValidation)
+{
+    CSerializationContext context;
+    CSmartPtr<ItemCollection> items(new ItemCollection(1, 1));
+    EXPECT_FALSE(items->IsValidCount(context));
+    try {
+        items->ValidateCount(context);
+        FAIL();
+    } catch (const CVxValidationException &e) {
+        EXPECT_EQ("The Minimum number of [item] elements allowed in this collection is 1", e.GetMessage());
+        EXPECT_EQ("", e.GetPath());
+    }
+    items->AppendItem(new Item("a"));
+    items->AppendItem(new Item("b"));
+    EXPECT_FALSE(items->IsValidCount(context));
+    try {
+        items->ValidateCount(context);
+        FAIL();
+    } catch (const CVxValidationException &e) {
+        EXPECT_EQ("The Maximum number of [item] elements allowed in this collection is 1", e.GetMessage());
+    }
+    context.SetIgnoreInvalidCollectionCounts(true);
+    EXPECT_TRUE(items->IsValidCount(context));
+    EXPECT_NO_THROW(items->ValidateCount(context));
+
+    CSmartPtr<ItemCollection> unbounded(new ItemCollection(0, -1));
+    for (int i = 0; i < 50; ++i)
+        unbounded->AppendItem(new Item("x"));
+    EXPECT_TRUE(unbounded->IsValidCount(CSerializationContext()));
+    EXPECT_EQ("urn:i", unbounded->GetNamespace());
+    EXPECT_THROW(unbounded->GetTargetNamespace(), CVxException);
+}

@@ -1,0 +1,187 @@
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "BinaryData.h"
+#include "Exceptions.h"
+
+using VxXmlLib16::CBinaryData;
+using VxXmlLib16::CVxException;
+
+namespace {
+
+std::string Bytes(const CBinaryData &data)
+{
+    return std::string(reinterpret_cast<const char *>(data.GetData()), data.GetLength());
+}
+
+template <class F>
+std::string MessageOf(F &&action)
+{
+    try {
+        action();
+    } catch (const CVxException &e) {
+        return e.GetMessage();
+    }
+    return "no exception";
+}
+
+} // namespace
+
+TEST(BinaryData, CopiesShareUntilOneChanges)
+{
+    CBinaryData a("abc");
+    CBinaryData b(a);
+    EXPECT_EQ(a.GetData(), b.GetData());
+    b.Append('d');
+    EXPECT_NE(a.GetData(), b.GetData());
+    EXPECT_EQ("abc", Bytes(a));
+    EXPECT_EQ("abcd", Bytes(b));
+
+    CBinaryData c(a);
+    c[0] = 'X'; // non-const indexing detaches
+    EXPECT_EQ("abc", Bytes(a));
+    EXPECT_EQ("Xbc", Bytes(c));
+}
+
+TEST(BinaryData, SelfAssignmentEmptiesAndSelfAppendDoubles)
+{
+    CBinaryData a("xy");
+    CBinaryData &alias = a;
+    a = alias;
+    EXPECT_EQ(0u, a.GetLength());
+    EXPECT_EQ(nullptr, a.GetData());
+
+    CBinaryData b("xy");
+    b.Append(b);
+    EXPECT_EQ("xyxy", Bytes(b));
+}
+
+TEST(BinaryData, AppendForms)
+{
+    CBinaryData data;
+    data.Append(std::string("ab\0cd", 5)); // stops at the NUL
+    unsigned char raw[] = {'1', 0, '2'};
+    data.Append(raw, 3); // keeps it
+    data.Append(static_cast<unsigned char>('z'));
+    data.Append(raw, 0);
+    EXPECT_EQ(std::string("ab1\0002z", 6), Bytes(data));
+
+    // Growth across many small appends keeps every byte.
+    CBinaryData big;
+    std::string expected;
+    for (int i = 0; i < 20000; ++i) {
+        big.Append(static_cast<char>('a' + i % 26));
+        expected += static_cast<char>('a' + i % 26);
+    }
+    EXPECT_EQ(expected, Bytes(big));
+}
+
+TEST(BinaryData, AdoptedBufferAndReleaseData)
+{
+    unsigned char *owned = new unsigned char[3]{'p', 'q', 'r'};
+    CBinaryData adopted(owned, 3, true);
+    EXPECT_EQ(owned, adopted.GetData());
+    // The position just past the bytes is valid, even for an adopted buffer.
+    EXPECT_EQ(0, static_cast<const CBinaryData &>(adopted)[3]);
+    adopted[3] = 's';
+    adopted.Append('t');
+    EXPECT_EQ("pqrt", Bytes(adopted));
+
+    CBinaryData shared(adopted);
+    unsigned char *released = adopted.ReleaseData();
+    EXPECT_EQ(0, std::memcmp(released, "pqrt", 4));
+    EXPECT_EQ(nullptr, adopted.GetData());
+    EXPECT_EQ("pqrt", Bytes(shared)); // the other handle kept its own copy
+    delete[] released;
+
+    CBinaryData empty;
+    EXPECT_EQ(nullptr, empty.ReleaseData());
+    CBinaryData zero(owned, 0, true); // length 0 never makes a block, adopt or not
+    EXPECT_EQ(nullptr, zero.GetData());
+}
+
+TEST(BinaryData, IndexBounds)
+{
+    const CBinaryData data("ab");
+    EXPECT_EQ('b', data[1]);
+    EXPECT_EQ(0, data[2]); // the index may equal the length
+    EXPECT_EQ("Index Out of range [3]", MessageOf([&] { (void)data[3]; }));
+    const CBinaryData empty;
+    EXPECT_EQ("Index Out of range [0]", MessageOf([&] { (void)empty[0]; }));
+}
+
+TEST(BinaryData, Equality)
+{
+    EXPECT_EQ(CBinaryData(), CBinaryData(""));
+    EXPECT_EQ(CBinaryData("ab"), CBinaryData("ab"));
+    EXPECT_NE(CBinaryData("ab"), CBinaryData("abc"));
+    EXPECT_NE(CBinaryData("ab"), CBinaryData("ac"));
+
+    CBinaryData bad;
+    bad.SetAsBase64("ab!d"); // a block of length 0 is not the plain empty value
+    EXPECT_EQ(0u, bad.GetLength());
+    EXPECT_NE(nullptr, bad.GetData());
+    EXPECT_NE(CBinaryData(), bad);
+}
+
+TEST(BinaryData, HexForms)
+{
+    CBinaryData data;
+    data.SetAsHexString("0a0AfF10");
+    EXPECT_EQ("0A0AFF10", data.GetAsHexString());
+    EXPECT_EQ(std::string("\x0a\x0a\xff\x10", 4), Bytes(data));
+    EXPECT_EQ(0, static_cast<const CBinaryData &>(data)[4]);
+
+    data.SetAsHexString("");
+    EXPECT_EQ(nullptr, data.GetData());
+    EXPECT_EQ("", CBinaryData::GetAsHexString(nullptr, 4));
+
+    EXPECT_EQ("Invalid length in hex string", MessageOf([&] { data.SetAsHexString("abc"); }));
+    EXPECT_EQ("Invalid char in hex string [g]", MessageOf([&] { data.SetAsHexString("0g"); }));
+    EXPECT_EQ("Invalid char in hex string [ ]", MessageOf([&] { data.SetAsHexString(" 0"); }));
+}
+
+TEST(BinaryData, Base64EncodePadding)
+{
+    const struct {
+        const char *bytes;
+        const char *text;
+    } cases[] = {{"", ""}, {"A", "QQ=="}, {"AB", "QUI="}, {"ABC", "QUJD"}, {"ABCD", "QUJDRA=="}};
+    for (const auto &c : cases) {
+        CBinaryData data(c.bytes);
+        EXPECT_EQ(c.text, data.GetAsBase64()) << c.bytes;
+    }
+    unsigned char high[] = {0xFB, 0xFF};
+    EXPECT_EQ("+/8=", CBinaryData(high, 2, false).GetAsBase64());
+}
+
+TEST(BinaryData, Base64DecodeIsLenient)
+{
+    // Padding and white space are skipped wherever they stand; bit 7 is ignored.
+    for (const char *text : {"QQ==", "QQ", "Q=Q", " Q\tQ\r\n= =", "\xD1Q"}) {
+        CBinaryData data;
+        data.SetAsBase64(text);
+        EXPECT_EQ("A", Bytes(data)) << text;
+    }
+    CBinaryData data;
+    data.SetAsBase64("Q");
+    EXPECT_EQ(0u, data.GetLength());
+    data.SetAsBase64("");
+    EXPECT_EQ(nullptr, data.GetData());
+    data.SetAsBase64("QUJD" "RA==");
+    EXPECT_EQ("ABCD", Bytes(data));
+}
+
+TEST(BinaryData, Base64RoundTripsAllByteValues)
+{
+    std::vector<unsigned char> bytes(1000);
+    for (std::size_t i = 0; i < bytes.size(); ++i)
+        bytes[i] = static_cast<unsigned char>(i * 7 + i / 256);
+    const CBinaryData source(bytes.data(), static_cast<std::uint32_t>(bytes.size()), false);
+    CBinaryData decoded;
+    decoded.SetAsBase64(source.GetAsBase64().c_str());
+    EXPECT_EQ(source, decoded);
+}
