@@ -1,6 +1,7 @@
 #include "Decimal.h"
 
 #include "Exceptions.h"
+#include "WhitespaceUtils.h"
 
 #include <algorithm>
 #include <charconv>
@@ -23,8 +24,6 @@ constexpr std::size_t kExponentBufferSize = 32;
 constexpr int kMaxExponent = 999;
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-
-bool IsWhiteSpace(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
 
 template <std::size_t Size>
 class DigitBuffer
@@ -108,7 +107,7 @@ void CDecimal::Parse(const char *text)
             negative = c == '-';
         } else if (c == '.' || c == 'e' || c == 'E') {
             break;
-        } else if (!IsWhiteSpace(c)) {
+        } else if (!CWhitespaceUtils::IsWhiteSpace(c)) {
             fail(pos);
         }
     }
@@ -118,7 +117,7 @@ void CDecimal::Parse(const char *text)
             if (IsDigit(c)) {
                 if (!fractionDigits.Push(c))
                     fail(pos);
-            } else if (!IsWhiteSpace(c)) {
+            } else if (!CWhitespaceUtils::IsWhiteSpace(c)) {
                 break;
             }
         }
@@ -129,7 +128,7 @@ void CDecimal::Parse(const char *text)
             const char c = text[pos];
             if (c == '-' || c == '+')
                 negativeExponent = c == '-';
-            else if (!IsWhiteSpace(c))
+            else if (!CWhitespaceUtils::IsWhiteSpace(c))
                 break;
         }
         for (; IsDigit(text[pos]); ++pos) {
