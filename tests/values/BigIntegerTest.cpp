@@ -124,7 +124,8 @@ TEST(BigIntegerArithmetic, AgreesWithMachineIntegers)
     EXPECT_EQ(z.ToString(), "0");
     EXPECT_FALSE(IsNegativeZero(CBigInteger(-5) + CBigInteger(5)));
     EXPECT_TRUE(IsNegativeZero(CBigInteger(-5) * CBigInteger(0)));
-    EXPECT_EQ((CBigInteger("123456789012345678901234567890") * CBigInteger("987654321098765432109876543210")).ToString(),
+    const CBigInteger left("123456789012345678901234567890");
+    EXPECT_EQ((left * CBigInteger("987654321098765432109876543210")).ToString(),
               "121932631137021795226185032733622923332237463801111263526900");
 }
 
@@ -172,7 +173,8 @@ TEST(BigIntegerArithmetic, DivisionAndRemainderSigns)
     EXPECT_TRUE(IsNegativeZero(CBigInteger(-1) / CBigInteger(3)));
     EXPECT_TRUE(IsNegativeZero(CBigInteger(-6) % CBigInteger(3)));
     // A negative zero is a divisor below 0, and that check comes before the zero dividend.
-    EXPECT_TRUE(Throws<CVxInvalidValueException>([] { (void)(CBigInteger(0) % CBigInteger("-0")); }, overflowRemainder));
+    EXPECT_TRUE(
+        Throws<CVxInvalidValueException>([] { (void)(CBigInteger(0) % CBigInteger("-0")); }, overflowRemainder));
 }
 
 TEST(BigIntegerCompare, NegativeZeroIsEqualButSmaller)

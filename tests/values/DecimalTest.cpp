@@ -74,7 +74,8 @@ TEST_F(DecimalTest, ParseFailuresNameThePosition)
         {"nan\n", 0},
     };
     for (const Case &c : cases)
-        EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { CDecimal value(c.text.c_str()); }, InvalidChar(c.position, c.text)));
+        EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { CDecimal value(c.text.c_str()); },
+                                                     InvalidChar(c.position, c.text)));
     EXPECT_EQ(CDecimal(("1e-" + std::string(20, '0') + "999").c_str()).ToString(), "0");
     EXPECT_EQ(CDecimal("1e999").ToString(), "1" + std::string(999, '0'));
 }
@@ -95,7 +96,8 @@ TEST_F(DecimalTest, DivisionKeepsThirtyDigits)
     EXPECT_EQ((CDecimal(-2) / CDecimal(3)).ToString(), "-0.666666666666666666666666666667");
     EXPECT_EQ((CDecimal("10") / CDecimal("-4")).ToString(), "-2.5");
     EXPECT_EQ((CDecimal("0.001") / CDecimal("0.5")).ToString(), "0.002");
-    EXPECT_TRUE(Throws<CVxInvalidValueException>([] { CDecimal(1) / CDecimal("0.0"); }, "ERROR: Overflow in operator/."));
+    EXPECT_TRUE(
+        Throws<CVxInvalidValueException>([] { CDecimal(1) / CDecimal("0.0"); }, "ERROR: Overflow in operator/."));
 }
 
 // Cutting to the digit limit rounds halves toward zero, and a carry out of all-nine digits
