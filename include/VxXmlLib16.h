@@ -24,3 +24,6 @@
 #include "LocalText.h"
 #include "BigInteger.h"
 #include "Decimal.h"
+#include "SystemTime.h"
+#include "DateTime.h"
+#include "DateTimeSpan.h"

@@ -52,32 +52,42 @@ TEST(CodePageConverter, UnlistedCodePageDeliversNothing)
     }
 }
 
-TEST(CodePageConverter, UnmappableAndInvalidInputIsReplaced)
+TEST(CodePageConverter, ConvertsAndReplacesWhatTheTargetCannotTake)
 {
-    std::string narrow;
-    std::u16string wide;
-    ASSERT_TRUE(ToCodePage(1252, u"x\u4E2Dy\U0001F600z", narrow));
-    EXPECT_EQ(narrow, "x?y?z");
-    ASSERT_TRUE(ToCodePage(1252, u"x\xDC00y", narrow));
-    EXPECT_EQ(narrow, "x?y");
-    ASSERT_TRUE(ToCodePage(1252, u"x\xD800", narrow));
-    EXPECT_EQ(narrow, "x?");
-    // A lead byte of Shift-JIS without its trail byte, inside and at the end.
-    ASSERT_TRUE(FromCodePage(932, "a\x93", wide));
-    EXPECT_EQ(wide, u"a\uFFFD");
-    ASSERT_TRUE(FromCodePage(20127, "a\xE9z", wide));
-    EXPECT_EQ(wide, u"a\uFFFDz");
-}
-
-TEST(CodePageConverter, SwitchingCodePagesOnOneThreadUsesTheRightConverter)
-{
-    std::string narrow;
-    ASSERT_TRUE(ToCodePage(1252, u"\u20AC", narrow));
-    EXPECT_EQ(narrow, "\x80");
-    ASSERT_TRUE(ToCodePage(28605, u"\u20AC", narrow));
-    EXPECT_EQ(narrow, "\xA4");
-    ASSERT_TRUE(ToCodePage(1251, u"\u0416", narrow));
-    EXPECT_EQ(narrow, "\xC6");
+    // In table order, so that one thread switches between code pages.
+    const struct
+    {
+        std::uint32_t codePage;
+        std::u16string wide;
+        std::string narrow;
+    } fromUtf16[] = {
+        {1252, u"\u20AC", "\x80"},
+        {28605, u"\u20AC", "\xA4"},
+        {1251, u"\u0416", "\xC6"},
+        {1252, u"x\u4E2Dy\U0001F600z", "x?y?z"},
+        {1252, u"x\xDC00y", "x?y"},
+        {1252, u"x\xD800", "x?"},
+    };
+    for (const auto &c : fromUtf16) {
+        std::string narrow;
+        EXPECT_TRUE(ToCodePage(c.codePage, c.wide, narrow));
+        EXPECT_EQ(narrow, c.narrow) << c.codePage;
+    }
+    const struct
+    {
+        std::uint32_t codePage;
+        std::string narrow;
+        std::u16string wide;
+    } toUtf16[] = {
+        {932, "a\x93", u"a\uFFFD"}, // a Shift-JIS lead byte without its trail byte
+        {932, "\x93\xFA", u"\u65E5"},
+        {20127, "a\xE9z", u"a\uFFFDz"},
+    };
+    for (const auto &c : toUtf16) {
+        std::u16string wide;
+        EXPECT_TRUE(FromCodePage(c.codePage, c.narrow, wide));
+        EXPECT_EQ(wide, c.wide) << c.codePage;
+    }
 }
 
 } // namespace
