@@ -22,3 +22,4 @@
 #include "WhitespaceUtils.h"
 #include "Conversions.h"
 #include "LocalText.h"
+#include "XmlDocument.h"
