@@ -7,7 +7,6 @@
 #include <map>
 #include <memory>
 #include <string>
-#include <unordered_set>
 #include <vector>
 
 #include "Enums.h"
@@ -30,6 +29,8 @@ using XmlElementCallback = bool (*)(CXmlElement *element);
 // while the source lives. The library itself never copies a tree.
 class CXmlAttribute : private CInstanceMonitor
 {
+    friend class CXmlDocument;
+
 public:
     CXmlAttribute(const CXmlAttribute &) = default;
     CXmlAttribute &operator=(const CXmlAttribute &) = default;
@@ -44,7 +45,6 @@ public:
     bool IsNamespaceAttribute() const;
 
 private:
-    friend class CXmlElement;
     // Names and URIs are interned by the document and live as long as it does.
     CXmlAttribute(CXmlElement *element, const std::string *localName, std::string value,
                   const std::string *namespaceUri);
@@ -134,6 +134,9 @@ public:
 
 private:
     friend class CExpatReader;
+    friend class CXmlElement;
+    // The nodes and the interned names of the tree; shared by member-wise copies.
+    struct TreeStorage;
 
     void Init();
     void Parse();
@@ -149,6 +152,13 @@ private:
     bool FinishChunk(VxPlatform::InputFile &file, const char *fileName);
     [[noreturn]] static void FailChunkRead(const char *fileName, std::uint32_t status);
     void AllocateData(std::uint32_t length);
+
+    // Nodes live in the document's storage and die through these.
+    CXmlElement *NewElement(CXmlElement *parent);
+    CXmlAttribute *NewAttribute(CXmlElement *element, const std::string *localName, std::string value,
+                                const std::string *namespaceUri);
+    static void DestroyElement(CXmlElement *element);
+    static void DestroyAttribute(CXmlAttribute *attribute);
 
     // Names and URIs of the tree are kept once per document.
     const std::string *Intern(const char *text);
@@ -177,7 +187,7 @@ private:
     SchemaType m_schemaType = SchemaType_Namespaced;
     XmlElementCallback m_callback = nullptr;
     const CSerializationContext *m_context;
-    std::shared_ptr<std::unordered_set<std::string>> m_names;
+    std::shared_ptr<TreeStorage> m_storage;
 };
 
 } // namespace VxXmlLib16

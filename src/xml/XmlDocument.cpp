@@ -1,10 +1,19 @@
 #include "XmlDocument.h"
 
 #include <cstring>
+#include <unordered_set>
 
 #include "SerializationContext.h"
+#include "xml/NodePool.h"
 
 namespace VxXmlLib16 {
+
+struct CXmlDocument::TreeStorage
+{
+    CNodePool elements{sizeof(CXmlElement), alignof(CXmlElement)};
+    CNodePool attributes{sizeof(CXmlAttribute), alignof(CXmlAttribute)};
+    std::unordered_set<std::string> names;
+};
 
 CXmlDocument::CXmlDocument() : CXmlDocument(nullptr, CSerializationContext::GetDefaultContext()) {}
 
@@ -30,20 +39,21 @@ void CXmlDocument::Init()
     m_documentElement = nullptr;
     m_fileOffset = 0;
     m_schemaType = m_context->GetSchemaType();
-    m_names = std::make_shared<std::unordered_set<std::string>>();
+    m_storage = std::make_shared<TreeStorage>();
 }
 
 void CXmlDocument::Cleanup()
 {
-    delete m_documentElement;
+    if (m_documentElement)
+        DestroyElement(m_documentElement);
     m_documentElement = nullptr;
     delete[] m_data;
     m_data = nullptr;
     m_dataLength = 0;
     m_openElements.clear();
     m_aliases.clear();
-    // A fresh pool, so that a copy of this document keeps the names it points to.
-    m_names = std::make_shared<std::unordered_set<std::string>>();
+    // Fresh storage, so that a copy of this document keeps what it points to.
+    m_storage = std::make_shared<TreeStorage>();
 }
 
 std::string CXmlDocument::LookupAliasFromNamespace(const char *uri) const
@@ -63,12 +73,41 @@ std::string CXmlDocument::LookupNamespaceFromAlias(const char *alias) const
 
 const std::string *CXmlDocument::Intern(const char *text) { return Intern(std::string(text ? text : "")); }
 
-const std::string *CXmlDocument::Intern(std::string &&text) { return &*m_names->insert(std::move(text)).first; }
+const std::string *CXmlDocument::Intern(std::string &&text)
+{
+    return &*m_storage->names.insert(std::move(text)).first;
+}
+
+CXmlElement *CXmlDocument::NewElement(CXmlElement *parent)
+{
+    return new (m_storage->elements.Allocate()) CXmlElement(this, parent);
+}
+
+CXmlAttribute *CXmlDocument::NewAttribute(CXmlElement *element, const std::string *localName, std::string value,
+                                          const std::string *namespaceUri)
+{
+    return new (m_storage->attributes.Allocate()) CXmlAttribute(element, localName, std::move(value), namespaceUri);
+}
+
+void CXmlDocument::DestroyElement(CXmlElement *element)
+{
+    TreeStorage &storage = *element->m_document->m_storage;
+    element->~CXmlElement();
+    storage.elements.Deallocate(element);
+}
+
+void CXmlDocument::DestroyAttribute(CXmlAttribute *attribute)
+{
+    TreeStorage &storage = *attribute->m_element->m_document->m_storage;
+    attribute->~CXmlAttribute();
+    storage.attributes.Deallocate(attribute);
+}
 
 CXmlElement *CXmlDocument::AddDocElement(const char *uri, const char *localName)
 {
     // A new document element replaces any earlier tree.
-    delete m_documentElement;
+    if (m_documentElement)
+        DestroyElement(m_documentElement);
     m_documentElement = nullptr;
     m_openElements.clear();
     return OpenElement(Intern(uri), Intern(localName));
@@ -83,7 +122,7 @@ CXmlElement *CXmlDocument::OpenElement(const std::string *uri, const std::string
 {
     CXmlElement *element;
     if (!m_documentElement) {
-        element = m_documentElement = new CXmlElement(this, nullptr);
+        element = m_documentElement = NewElement(nullptr);
     } else {
         element = m_openElements.back()->CreateNewChildElement();
     }
@@ -133,7 +172,8 @@ void CXmlDocument::EndElement()
     // Streaming mode: a consumed element leaves the tree at once. The root stays, as no
     // parent is left to detach it from.
     if (m_callback && m_callback(finished) && !m_openElements.empty())
-        delete m_openElements.back()->RemoveLastChildElement();
+        if (CXmlElement *consumed = m_openElements.back()->RemoveLastChildElement())
+            DestroyElement(consumed);
 }
 
 } // namespace VxXmlLib16

@@ -82,10 +82,10 @@ CXmlElement::~CXmlElement()
         } else {
             pending = element->m_nextSibling;
         }
-        delete element;
+        CXmlDocument::DestroyElement(element);
     }
     for (CXmlAttribute *attribute : m_attributes)
-        delete attribute;
+        CXmlDocument::DestroyAttribute(attribute);
 }
 
 const std::string &CXmlElement::GetAttribute(const char *localName, const char *namespaceUri) const
@@ -148,7 +148,7 @@ void CXmlElement::AppendText(const char *text, std::size_t length)
 
 CXmlElement *CXmlElement::CreateNewChildElement()
 {
-    auto *child = new CXmlElement(m_document, this);
+    CXmlElement *child = m_document->NewElement(this);
     if (m_lastChild)
         m_lastChild->m_nextSibling = child;
     else
@@ -160,9 +160,14 @@ CXmlElement *CXmlElement::CreateNewChildElement()
 CXmlAttribute *CXmlElement::AddAttribute(const std::string *localName, std::string value,
                                          const std::string *namespaceUri)
 {
-    std::unique_ptr<CXmlAttribute> attribute(new CXmlAttribute(this, localName, std::move(value), namespaceUri));
-    m_attributes.push_back(attribute.get());
-    return attribute.release();
+    CXmlAttribute *attribute = m_document->NewAttribute(this, localName, std::move(value), namespaceUri);
+    try {
+        m_attributes.push_back(attribute);
+    } catch (...) {
+        CXmlDocument::DestroyAttribute(attribute);
+        throw;
+    }
+    return attribute;
 }
 
 CXmlElement *CXmlElement::RemoveLastChildElement()
