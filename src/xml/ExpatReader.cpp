@@ -1,7 +1,6 @@
 #include "xml/ExpatReader.h"
 
 #include <algorithm>
-#include <climits>
 #include <cstring>
 #include <utility>
 
@@ -46,7 +45,6 @@ CExpatReader::~CExpatReader()
 void CExpatReader::Initialise()
 {
     m_scratch = std::make_unique<Scratch>();
-    m_scratchSize = kScratchSize;
     static_assert(sizeof(Scratch) == kScratchSize, "the scratch halves fill the buffer");
     m_passThrough = LocalTextIsUtf8();
 
@@ -99,7 +97,6 @@ void CExpatReader::ParseBuffer(bool final)
 void CExpatReader::ReleaseScratch()
 {
     m_scratch.reset();
-    m_scratchSize = 0;
 }
 
 void CExpatReader::FreeParser()

@@ -70,7 +70,6 @@ private:
 
     CXmlDocument *m_document;
     std::unique_ptr<Scratch> m_scratch;
-    std::uint32_t m_scratchSize = 0;
     XML_Parser m_parser = nullptr;
     // Local text equals UTF-8 as Expat delivers it, so no conversion is needed.
     bool m_passThrough = false;

@@ -3,6 +3,7 @@
 #include <cstring>
 #include <unordered_set>
 
+#include "Exceptions.h"
 #include "SerializationContext.h"
 #include "xml/NodePool.h"
 
@@ -123,6 +124,9 @@ CXmlElement *CXmlDocument::OpenElement(const std::string *uri, const std::string
     CXmlElement *element;
     if (!m_documentElement) {
         element = m_documentElement = NewElement(nullptr);
+    } else if (m_openElements.empty()) {
+        // Only a reader that lets a second root through gets here.
+        throw CVxException("An element follows the document element");
     } else {
         element = m_openElements.back()->CreateNewChildElement();
     }

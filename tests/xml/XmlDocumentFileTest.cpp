@@ -7,6 +7,7 @@
 #include <fstream>
 #include <string>
 
+#include "BinaryData.h"
 #include "Exceptions.h"
 #include "SerializationContext.h"
 #include "XmlDocument.h"
@@ -214,6 +215,9 @@ TEST(XmlDocumentFileTest, EntryPointsHandTheRootAndItsFirstChildOver)
     unsigned char bytes[] = "<s><t/></s>";
     probe->FromXmlStream(bytes, sizeof bytes - 1);
     EXPECT_EQ(probe->seen, "s/t");
+    probe->FromXmlStream(CBinaryData("<u><v/></u>"));
+    EXPECT_EQ(probe->seen, "u/v");
+    EXPECT_THROW(probe->FromXmlStream(CBinaryData()), CVxException);
     probe->FromXmlFile(WriteFile("entry.xml", "<f><g/></f>").c_str());
     EXPECT_EQ(probe->seen, "f/g");
 
