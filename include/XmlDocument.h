@@ -152,6 +152,7 @@ private:
     bool FinishChunk(VxPlatform::InputFile &file, const char *fileName);
     [[noreturn]] static void FailChunkRead(const char *fileName, std::uint32_t status);
     void AllocateData(std::uint32_t length);
+    void FreeData();
 
     // Nodes live in the document's storage and die through these.
     CXmlElement *NewElement(CXmlElement *parent);

@@ -48,9 +48,7 @@ void CXmlDocument::Cleanup()
     if (m_documentElement)
         DestroyElement(m_documentElement);
     m_documentElement = nullptr;
-    delete[] m_data;
-    m_data = nullptr;
-    m_dataLength = 0;
+    FreeData();
     m_openElements.clear();
     m_aliases.clear();
     // Fresh storage, so that a copy of this document keeps what it points to.

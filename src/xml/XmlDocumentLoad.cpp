@@ -7,6 +7,7 @@
 #include "Exceptions.h"
 #include "XmlDocument.h"
 #include "XmlObjectBase.h"
+#include "platform/HugeBlock.h"
 #include "platform/InputFile.h"
 #include "xml/ExpatReader.h"
 
@@ -22,11 +23,16 @@ const char *NameForMessage(const char *fileName) { return fileName ? fileName : 
 
 void CXmlDocument::AllocateData(std::uint32_t length)
 {
-    delete[] m_data;
+    FreeData();
+    m_data = VxPlatform::AllocateBuffer(length);
+    m_dataLength = length;
+}
+
+void CXmlDocument::FreeData()
+{
+    VxPlatform::FreeBuffer(m_data);
     m_data = nullptr;
     m_dataLength = 0;
-    m_data = new unsigned char[length];
-    m_dataLength = length;
 }
 
 void CXmlDocument::LoadXml(const char *text)
@@ -151,7 +157,8 @@ void CXmlDocument::AsyncParse(VxPlatform::InputFile &file, bool lastChunk)
 {
     CExpatReader reader(this);
     reader.Initialise();
-    std::unique_ptr<unsigned char[]> next(new unsigned char[kChunkSize]);
+    std::unique_ptr<unsigned char, void (*)(unsigned char *)> next(VxPlatform::AllocateBuffer(kChunkSize),
+                                                                  &VxPlatform::FreeBuffer);
     while (!lastChunk) {
         ReadChunkFromFile(file, next.get(), nullptr);
         reader.ParseBuffer(false);
@@ -164,9 +171,7 @@ void CXmlDocument::AsyncParse(VxPlatform::InputFile &file, bool lastChunk)
     reader.ParseBuffer(true);
     if (!m_documentElement)
         throw CVxException("Invalid or empty XML document");
-    delete[] m_data;
-    m_data = nullptr;
-    m_dataLength = 0;
+    FreeData();
 }
 
 void CXmlDocument::FailChunkRead(const char *fileName, std::uint32_t status)
