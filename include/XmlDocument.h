@@ -144,13 +144,13 @@ private:
     void LoadFileWhole(const char *fileName);
     void LoadFileInChunks(const char *fileName);
     void AsyncParse(VxPlatform::InputFile &file, bool lastChunk);
-    // Starts a chunk read at the current offset. Failures name the file when one is
-    // given and read as mid-file failures otherwise.
+    // Starts a chunk read at the current offset; failures as FailRead.
     void ReadChunkFromFile(VxPlatform::InputFile &file, unsigned char *buffer, const char *fileName);
     // Waits for the chunk, stores its byte count as data length and moves the offset
     // on; true for the last chunk. Reaching the end of the file fails.
     bool FinishChunk(VxPlatform::InputFile &file, const char *fileName);
-    [[noreturn]] static void FailChunkRead(const char *fileName, std::uint32_t status);
+    // Names the file when one is given; without, the failure lies in mid-file.
+    [[noreturn]] static void FailRead(const char *fileName, std::uint32_t status);
     void AllocateData(std::uint32_t length);
     void FreeData();
 
