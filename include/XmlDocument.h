@@ -45,7 +45,7 @@ public:
     bool IsNamespaceAttribute() const;
 
 private:
-    // Names and URIs are interned by the document and live as long as it does.
+    // Names and URIs are kept by the document and live as long as it does.
     CXmlAttribute(CXmlElement *element, const std::string *localName, std::string value,
                   const std::string *namespaceUri);
 
@@ -135,7 +135,7 @@ public:
 private:
     friend class CExpatReader;
     friend class CXmlElement;
-    // The nodes and the interned names of the tree; shared by member-wise copies.
+    // The nodes and the names of the tree; shared by member-wise copies.
     struct TreeStorage;
 
     void Init();
@@ -161,9 +161,9 @@ private:
     static void DestroyElement(CXmlElement *element);
     static void DestroyAttribute(CXmlAttribute *attribute);
 
-    // Names and URIs of the tree are kept once per document.
-    const std::string *Intern(const char *text);
-    const std::string *Intern(std::string &&text);
+    // Names and URIs of the tree live as long as the document's storage.
+    const std::string *StoreName(const char *text);
+    const std::string *StoreName(std::string &&text);
 
     // Building operations of the readers.
     CXmlElement *AddDocElement(const char *uri, const char *localName);
