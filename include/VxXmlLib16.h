@@ -23,3 +23,8 @@
 #include "Conversions.h"
 #include "LocalText.h"
 #include "XmlDocument.h"
+#include "BigInteger.h"
+#include "Decimal.h"
+#include "SystemTime.h"
+#include "DateTime.h"
+#include "DateTimeSpan.h"

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "BinaryData.h"
 #include "LocalText.h"
 #include "LocalTextScope.h"
 
@@ -130,6 +131,7 @@ TEST(Utf8ToLocal, Windows1252LocalTranscodes)
         {"unmappable pair", "\xF0\x9F\x98\x80", "?"},
         {"ill-formed utf-8", "a\xC3", "a?"},
         {"ends at nul", std::string("\xC3\xA9\0\xC3\xA9", 5), "\xE9"},
+        {"ascii ends at nul", std::string("ab\0c", 4), "ab"},
     };
     for (const auto &c : cases) {
         for (unsigned int size : kScratchSizes) {
@@ -202,6 +204,98 @@ TEST(LocalText, UnmappedCodePageGivesEmptyResults)
     EXPECT_EQ(GetLocalCharEncoding(), 4711u);
     EXPECT_EQ(Utf8ToLocal("abc"), "");
     EXPECT_EQ(Utf16ToLocal(u"abc", 3), "");
+}
+
+} // namespace
+
+namespace {
+
+std::string Bytes(const VxXmlLib16::CBinaryData &data)
+{
+    return data.GetLength() ? std::string(reinterpret_cast<const char *>(data.GetData()), data.GetLength())
+                            : std::string();
+}
+
+TEST(LocalToUtf16Data, GivesLittleEndianUnitsWithoutTerminatorOrMark)
+{
+    struct Case
+    {
+        unsigned int codePage;
+        const char *local;
+        std::string utf16;
+    };
+    const Case cases[] = {
+        {65001, "A\xC3\xA9\xE2\x82\xAC", std::string("A\0\xE9\0\xAC\x20", 6)},
+        {65001, "\xF0\x9F\x98\x80", std::string("\x3D\xD8\x00\xDE", 4)},
+        {65001, "\xC3", "\xFD\xFF"},
+        {1252, "A\xE9\x80", std::string("A\0\xE9\0\xAC\x20", 6)},
+        {1252, "", ""},
+        {4711, "abc", ""},
+    };
+    for (const auto &c : cases) {
+        LocalTextScope scope(c.codePage, true); // the ASCII-only flag does not apply here
+        SCOPED_TRACE(c.local);
+        const CBinaryData data = LocalToUtf16Data(c.local);
+        EXPECT_EQ(Bytes(data), c.utf16);
+        if (c.utf16.empty()) {
+            EXPECT_EQ(data, CBinaryData());
+        }
+    }
+}
+
+TEST(Utf16ToUtf8Data, EncodesUpToTheTerminator)
+{
+    EXPECT_EQ(Bytes(Utf16ToUtf8Data(u"plain")), "plain");
+    EXPECT_EQ(Bytes(Utf16ToUtf8Data(u"\u00E9\U0001F600")), "\xC3\xA9\xF0\x9F\x98\x80");
+    // The sizing call reports 0 for a lone surrogate, which leaves nothing to write.
+    EXPECT_EQ(Utf16ToUtf8Data(u"ab\u00E9\xDC00"), CBinaryData());
+    EXPECT_EQ(Utf16ToUtf8Data(u""), CBinaryData());
+    EXPECT_EQ(Utf16ToUtf8Data(nullptr), CBinaryData());
+}
+
+TEST(LocalToUtf8Data, TranscodesOrPassesThroughWithAsciiOnly)
+{
+    struct Case
+    {
+        unsigned int codePage;
+        bool asciiOnly;
+        const char *local;
+        std::string utf8;
+    };
+    const Case cases[] = {
+        {65001, false, "caf\xC3\xA9", "caf\xC3\xA9"},
+        {65001, false, "a\xFF" "b", "a\xEF\xBF\xBD" "b"},
+        {1252, false, "caf\xE9 \x80", "caf\xC3\xA9 \xE2\x82\xAC"},
+        {1252, true, "caf\xE9", "caf\xE9"},
+        {1252, false, "plain", "plain"},
+        {65001, true, "a\xFF", "a\xFF"},
+        {4711, false, "abc", ""},
+        {65001, false, "", ""},
+    };
+    for (const auto &c : cases) {
+        LocalTextScope scope(c.codePage, c.asciiOnly);
+        SCOPED_TRACE(testing::Message() << c.codePage << " " << c.asciiOnly << " " << c.local);
+        EXPECT_EQ(Bytes(LocalToUtf8Data(c.local)), c.utf8);
+    }
+}
+
+TEST(LocalText, RoundTripsThroughEveryForm)
+{
+    const std::u16string unicode = u"Gr\u00FC\u00DFe \u20AC 100";
+    for (unsigned int page : {65001u, 1252u}) {
+        LocalTextScope scope(page);
+        SCOPED_TRACE(page);
+        const std::string local = Utf16ToLocal(unicode.data(), static_cast<unsigned int>(unicode.size()));
+        const std::string utf8 = Bytes(LocalToUtf8Data(local.c_str()));
+        EXPECT_EQ(utf8, "Gr\xC3\xBC\xC3\x9F" "e \xE2\x82\xAC 100");
+        EXPECT_EQ(Utf8ToLocal(utf8.c_str()), local);
+        const std::string utf16 = Bytes(LocalToUtf16Data(local.c_str()));
+        ASSERT_EQ(utf16.size(), unicode.size() * 2);
+        std::u16string units;
+        for (std::size_t i = 0; i < utf16.size(); i += 2)
+            units += static_cast<char16_t>(static_cast<unsigned char>(utf16[i]) | static_cast<unsigned char>(utf16[i + 1]) << 8);
+        EXPECT_EQ(units, unicode);
+    }
 }
 
 } // namespace
