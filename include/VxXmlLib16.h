@@ -22,6 +22,7 @@
 #include "WhitespaceUtils.h"
 #include "Conversions.h"
 #include "LocalText.h"
+#include "XmlDocument.h"
 #include "BigInteger.h"
 #include "Decimal.h"
 #include "SystemTime.h"
