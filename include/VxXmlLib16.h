@@ -22,3 +22,6 @@
 #include "WhitespaceUtils.h"
 #include "Conversions.h"
 #include "LocalText.h"
+#include "FileTextStream.h"
+#include "BinaryStream.h"
+#include "VxZip.h"
