@@ -253,8 +253,16 @@ TEST(Streams, FileErrorsCarryTheSystemErrorNumber)
         AsyncScope on(true);
         EXPECT_EQ(MessageOf([&] { order.ToXmlFile("/dev/full"); }),
                   "Failed to write data to the file. Error [0x0000001C]");
+        // The mark travels with the first block, so its failure is that of a block.
         EXPECT_EQ(MessageOf([&] { order.ToXmlFile("/dev/full", true, true, XmlEncoding_UTF16); }),
-                  "Failed to write data to the file [/dev/full] error [0x0000001C]");
+                  "Failed to write data to the file. Error [0x0000001C]");
+        // Bytes still gathered fail when the stream closes.
+        EXPECT_EQ(MessageOf([] {
+                      CFileTextStream stream("/dev/full", XmlEncoding_UTF16);
+                      stream.Open();
+                      stream.Close();
+                  }),
+                  "Failed to write data to the file. Error [0x0000001C]");
     }
     // Without bytes to write the file stream fails as the memory stream does.
     AsyncScope on(true);
