@@ -25,3 +25,4 @@
 #include "FileTextStream.h"
 #include "BinaryStream.h"
 #include "VxZip.h"
+#include "XmlDocument.h"

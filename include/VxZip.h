@@ -35,6 +35,9 @@ public:
     // Replaces the new[] buffer by its expansion if it holds a complete gzip or zlib
     // stream; anything else, a truncated or corrupt stream included, stays untouched.
     static void Decompress(void **data, std::uint32_t *length);
+    // The same test and expansion on borrowed bytes: true with the expansion in
+    // expanded, false (expanded empty) for anything that is not a complete stream.
+    static bool Decompress(const unsigned char *data, std::uint32_t length, CBinaryData &expanded);
 
     // Process-wide and unguarded, like the library's other switches.
     static void SetMaxDecompressedLength(std::uint32_t maxLength);

@@ -100,18 +100,19 @@ void CVxZip::Compress(CBinaryData &data, CompressionType type)
     data = CBinaryData(static_cast<unsigned char *>(buffer), length, true);
 }
 
-void CVxZip::Decompress(void **data, std::uint32_t *length)
+bool CVxZip::Decompress(const unsigned char *data, std::uint32_t length, CBinaryData &expanded)
 {
+    expanded.Clear();
     InflateStream inflater;
-    inflater.stream.next_in = static_cast<Bytef *>(*data);
-    inflater.stream.avail_in = *length;
+    // zlib reads the input without changing it.
+    inflater.stream.next_in = const_cast<Bytef *>(data);
+    inflater.stream.avail_in = length;
     if (inflateInit2(&inflater.stream, InflateAutoDetectWindowBits) != Z_OK)
-        return;
+        return false;
     inflater.started = true;
 
     const std::uint32_t maxLength = GetMaxDecompressedLength();
     std::unique_ptr<unsigned char[]> step(new unsigned char[InflateStep]);
-    CBinaryData expanded;
     int result = Z_OK;
     while (result == Z_OK) {
         inflater.stream.next_out = step.get();
@@ -120,18 +121,29 @@ void CVxZip::Decompress(void **data, std::uint32_t *length)
         if (result != Z_OK && result != Z_STREAM_END)
             break;
         const std::uint32_t produced = InflateStep - inflater.stream.avail_out;
-        if (produced > maxLength - expanded.GetLength())
+        if (produced > maxLength - expanded.GetLength()) {
+            expanded.Clear();
             throw CVxException(FormatString(
                 "Decompressed data exceeds the limit of [%u] bytes (CVxZip::SetMaxDecompressedLength)", maxLength));
+        }
         expanded.Append(step.get(), produced);
     }
-    if (result != Z_STREAM_END)
-        return;
+    if (result != Z_STREAM_END) {
+        expanded.Clear();
+        return false;
+    }
+    return true;
+}
 
+void CVxZip::Decompress(void **data, std::uint32_t *length)
+{
+    CBinaryData expanded;
+    if (!Decompress(static_cast<const unsigned char *>(*data), *length, expanded))
+        return;
     const std::uint32_t expandedLength = expanded.GetLength();
     unsigned char *bytes = expanded.ReleaseData();
     if (!bytes)
-        bytes = new unsigned char[1];
+        bytes = new unsigned char[1]; // an empty stream still gives the caller a buffer
     delete[] static_cast<unsigned char *>(*data);
     *data = bytes;
     *length = expandedLength;
