@@ -4,6 +4,7 @@
 #include <fstream>
 #include <iterator>
 #include <string>
+#include <vector>
 
 #include "../values/LocalTextScope.h"
 #include "BinaryData.h"
@@ -12,6 +13,7 @@
 #include "FileTextStream.h"
 #include "LocalText.h"
 #include "VxZip.h"
+#include "XmlDocument.h"
 #include "XmlObjectBase.h"
 #include "XmlWriter.h"
 
@@ -26,6 +28,9 @@ class Order : public CXmlObjectBase
 public:
     explicit Order(int lines) : m_lines(lines) {}
     ~Order() override = default;
+    static std::string LineText(int i) { return "Caf\xC3\xA9 cr\xC3\xA8me #" + std::to_string(i); }
+    // What FromXml_Int found last: the texts of the lines.
+    const std::vector<std::string> &ReadLines() const { return m_read; }
     CXmlObjectBase *GetBase() override { return this; }
     std::string GetTargetNamespace() const override { return "urn:orders"; }
     std::string GetNamespace() const override { return "urn:orders"; }
@@ -39,18 +44,22 @@ protected:
         writer->StartElement("order", namespaceUri);
         for (int i = 0; i < m_lines; ++i) {
             writer->StartElement("line", namespaceUri);
-            writer->WriteElementValue("Caf\xC3\xA9 cr\xC3\xA8me #" + std::to_string(i), ItemType_string, false);
+            writer->WriteElementValue(LineText(i), ItemType_string, false);
             writer->EndElement();
         }
         writer->EndElement();
     }
-    CXmlElement *FromXml_Int(CXmlElement *, CXmlElement *, const CSerializationContext &, bool) override
+    CXmlElement *FromXml_Int(CXmlElement *, CXmlElement *firstChild, const CSerializationContext &, bool) override
     {
+        m_read.clear();
+        for (CXmlElement *line = firstChild; line; line = line->GetNextSiblingElement())
+            m_read.push_back(line->GetText());
         return nullptr;
     }
 
 private:
     int m_lines;
+    std::vector<std::string> m_read;
 };
 
 class AsyncScope
@@ -72,6 +81,15 @@ std::string ReadFile(const std::string &path)
 {
     std::ifstream file(path, std::ios::binary);
     return std::string(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
+}
+
+// The lines an Order of count lines reads back as.
+std::vector<std::string> LinesOf(int count)
+{
+    std::vector<std::string> lines;
+    for (int i = 0; i < count; ++i)
+        lines.push_back(Order::LineText(i));
+    return lines;
 }
 
 std::string TempPath(const char *name) { return std::string(VX_TEST_TMP_DIR) + "/" + name; }
@@ -147,6 +165,11 @@ TEST(Streams, ToXmlStreamCompressesTheEncodedBytes)
             CVxZip::Decompress(&buffer, &length);
             EXPECT_EQ(std::string(static_cast<char *>(buffer), length), plain);
             delete[] static_cast<unsigned char *>(buffer);
+
+            Order back(0);
+            back.FromXmlStream(order.ToXmlStream(true, true, encoding, EOLType_LF,
+                                                 CSerializationContext::GetDefaultContext(), compression));
+            EXPECT_TRUE(back.ReadLines() == LinesOf(200));
         }
     }
     // Too short to shrink under a gzip wrapper: zlib's code for "out of room" follows.
@@ -162,6 +185,7 @@ TEST(Streams, ToXmlStreamCompressesTheEncodedBytes)
 TEST(Streams, ToXmlFileBytesForEveryEncodingCompressionAndSwitch)
 {
     Order order(3000);
+    const std::vector<std::string> expectedLines = LinesOf(3000);
     const std::string path = TempPath("order.xml");
     for (bool async : {false, true}) {
         AsyncScope scope(async);
@@ -178,6 +202,9 @@ TEST(Streams, ToXmlFileBytesForEveryEncodingCompressionAndSwitch)
                 EXPECT_TRUE(file == expected);
                 EXPECT_EQ(file.substr(file[0] == '\xFF' ? 2 : 0, 2),
                           compression == CompressionType_GZip ? "\x1F\x8B" : encoding == XmlEncoding_UTF8 ? "<?" : std::string("<\0", 2));
+                Order back(0);
+                back.FromXmlFile(path.c_str());
+                EXPECT_TRUE(back.ReadLines() == expectedLines);
             }
         }
     }
