@@ -5,7 +5,7 @@
 //
 // Expansion recognises gzip and zlib by their headers and leaves anything else as it
 // is. Its result is bounded: a stream that expands past GetMaxDecompressedLength()
-// (1 GiB unless raised) is refused with a CVxException naming the limit, so that a
+// (256 MiB unless raised) is refused with a CVxException naming the limit, so that a
 // small "zip bomb" cannot take the process's memory. Raise the limit at program start
 // with SetMaxDecompressedLength when larger documents arrive compressed; the length of
 // a byte buffer caps it at 4 GiB - 1.
@@ -21,7 +21,7 @@ namespace VxXmlLib16 {
 class CVxZip : private CInstanceMonitor
 {
 public:
-    static constexpr std::uint32_t DefaultMaxDecompressedLength = 1u << 30;
+    static constexpr std::uint32_t DefaultMaxDecompressedLength = 256u << 20;
 
     CVxZip() : CInstanceMonitor("CVxZip") {}
     ~CVxZip() override = default;
