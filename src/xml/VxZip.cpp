@@ -21,27 +21,19 @@ constexpr int CompressionLevel = 1;
 std::atomic<std::uint32_t> g_maxDecompressedLength{CVxZip::DefaultMaxDecompressedLength};
 
 // Ends the stream on every way out of the function that started it.
-struct DeflateStream
+template <int (*End)(z_streamp)>
+struct ZStream
 {
     z_stream stream{};
     bool started = false;
-    ~DeflateStream()
+    ~ZStream()
     {
         if (started)
-            deflateEnd(&stream);
+            End(&stream);
     }
 };
-
-struct InflateStream
-{
-    z_stream stream{};
-    bool started = false;
-    ~InflateStream()
-    {
-        if (started)
-            inflateEnd(&stream);
-    }
-};
+using DeflateStream = ZStream<deflateEnd>;
+using InflateStream = ZStream<inflateEnd>;
 
 } // namespace
 

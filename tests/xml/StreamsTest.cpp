@@ -11,56 +11,15 @@
 #include "BinaryStream.h"
 #include "Exceptions.h"
 #include "FileTextStream.h"
+#include "LinesOrder.h"
 #include "LocalText.h"
 #include "VxZip.h"
-#include "XmlDocument.h"
-#include "XmlObjectBase.h"
-#include "XmlWriter.h"
 
 using namespace VxXmlLib16;
 
 namespace {
 
-// An order with a number of lines; each line's text holds a non-ASCII character
-// (UTF-8 is the default local encoding), so that every encoding changes the bytes.
-class Order : public CXmlObjectBase
-{
-public:
-    explicit Order(int lines) : m_lines(lines) {}
-    ~Order() override = default;
-    static std::string LineText(int i) { return "Caf\xC3\xA9 cr\xC3\xA8me #" + std::to_string(i); }
-    // What FromXml_Int found last: the texts of the lines.
-    const std::vector<std::string> &ReadLines() const { return m_read; }
-    CXmlObjectBase *GetBase() override { return this; }
-    std::string GetTargetNamespace() const override { return "urn:orders"; }
-    std::string GetNamespace() const override { return "urn:orders"; }
-
-protected:
-    void ToXml_Int(CXmlWriter *writer, bool isRoot, const char *namespaceUri, const CSerializationContext &,
-                   bool) const override
-    {
-        if (isRoot)
-            writer->SetDefaultNamespace(namespaceUri);
-        writer->StartElement("order", namespaceUri);
-        for (int i = 0; i < m_lines; ++i) {
-            writer->StartElement("line", namespaceUri);
-            writer->WriteElementValue(LineText(i), ItemType_string, false);
-            writer->EndElement();
-        }
-        writer->EndElement();
-    }
-    CXmlElement *FromXml_Int(CXmlElement *, CXmlElement *firstChild, const CSerializationContext &, bool) override
-    {
-        m_read.clear();
-        for (CXmlElement *line = firstChild; line; line = line->GetNextSiblingElement())
-            m_read.push_back(line->GetText());
-        return nullptr;
-    }
-
-private:
-    int m_lines;
-    std::vector<std::string> m_read;
-};
+using Order = VxTest::LinesOrder;
 
 class AsyncScope
 {
@@ -81,15 +40,6 @@ std::string ReadFile(const std::string &path)
 {
     std::ifstream file(path, std::ios::binary);
     return std::string(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
-}
-
-// The lines an Order of count lines reads back as.
-std::vector<std::string> LinesOf(int count)
-{
-    std::vector<std::string> lines;
-    for (int i = 0; i < count; ++i)
-        lines.push_back(Order::LineText(i));
-    return lines;
 }
 
 std::string TempPath(const char *name) { return std::string(VX_TEST_TMP_DIR) + "/" + name; }
@@ -169,7 +119,7 @@ TEST(Streams, ToXmlStreamCompressesTheEncodedBytes)
             Order back(0);
             back.FromXmlStream(order.ToXmlStream(true, true, encoding, EOLType_LF,
                                                  CSerializationContext::GetDefaultContext(), compression));
-            EXPECT_TRUE(back.ReadLines() == LinesOf(200));
+            EXPECT_TRUE(back.ReadLines() == Order::LinesOf(200));
         }
     }
     // Too short to shrink under a gzip wrapper: zlib's code for "out of room" follows.
@@ -185,7 +135,7 @@ TEST(Streams, ToXmlStreamCompressesTheEncodedBytes)
 TEST(Streams, ToXmlFileBytesForEveryEncodingCompressionAndSwitch)
 {
     Order order(3000);
-    const std::vector<std::string> expectedLines = LinesOf(3000);
+    const std::vector<std::string> expectedLines = Order::LinesOf(3000);
     const std::string path = TempPath("order.xml");
     for (bool async : {false, true}) {
         AsyncScope scope(async);
