@@ -1,164 +1,129 @@
 #include <gtest/gtest.h>
 
-#include <cstring>
 #include <string>
 
 #include "BinaryData.h"
 #include "Exceptions.h"
 #include "VxZip.h"
+#include "XmlDocument.h"
 
 using namespace VxXmlLib16;
 
 namespace {
 
-// A new[] buffer holding the text, as the raw interface expects.
-void *NewBuffer(const std::string &text, std::uint32_t *length)
+std::string Document(int orders)
 {
-    auto *buffer = new unsigned char[text.size()];
-    std::memcpy(buffer, text.data(), text.size());
-    *length = static_cast<std::uint32_t>(text.size());
-    return buffer;
-}
-
-std::string Take(void *buffer, std::uint32_t length)
-{
-    std::string text(static_cast<const char *>(buffer), length);
-    delete[] static_cast<unsigned char *>(buffer);
-    return text;
-}
-
-std::string Repetitive(std::size_t count)
-{
-    std::string text = "<?xml version=\"1.0\"?>\n<orders>";
-    for (std::size_t i = 0; i < count; ++i)
-        text += "<order id=\"" + std::to_string(i) + "\"><qty>3</qty></order>";
+    std::string text = "<?xml version=\"1.0\"?>\n<orders>\n";
+    for (int i = 0; i < orders; ++i)
+        text += "<order id=\"" + std::to_string(i) + "\"><qty>3</qty></order>\n";
     return text + "</orders>";
 }
 
-class MaxLengthScope
-{
-public:
-    explicit MaxLengthScope(std::uint32_t limit) : m_saved(CVxZip::GetMaxDecompressedLength())
-    {
-        CVxZip::SetMaxDecompressedLength(limit);
-    }
-    ~MaxLengthScope() { CVxZip::SetMaxDecompressedLength(m_saved); }
+std::string Bytes(const CBinaryData &data) { return std::string(reinterpret_cast<const char *>(data.GetData()), data.GetLength()); }
 
-private:
-    std::uint32_t m_saved;
-};
+CBinaryData Compressed(const std::string &text, CompressionType type)
+{
+    CBinaryData data(text.c_str());
+    CVxZip::Compress(data, type);
+    return data;
+}
+
+// The raw interface on a new[] copy of the bytes; returns what the buffer holds after.
+std::string Expanded(const std::string &bytes, bool *replaced = nullptr)
+{
+    auto *buffer = new unsigned char[bytes.size() + 1];
+    bytes.copy(reinterpret_cast<char *>(buffer), bytes.size());
+    void *data = buffer;
+    auto length = static_cast<std::uint32_t>(bytes.size());
+    CVxZip::Decompress(&data, &length);
+    if (replaced)
+        *replaced = data != buffer;
+    std::string result(static_cast<const char *>(data), length);
+    delete[] static_cast<unsigned char *>(data);
+    return result;
+}
+
+std::string LoadStreamMessage(const CBinaryData &data)
+{
+    try {
+        CXmlDocument().LoadXmlStream(const_cast<unsigned char *>(data.GetData()), data.GetLength());
+    } catch (const CVxException &e) {
+        return e.GetMessage();
+    }
+    return "(loaded)";
+}
 
 } // namespace
 
-TEST(VxZip, BothFormatsCompressAndExpandByContent)
+TEST(VxZip, BothFormatsCompressAtLevelOneAndExpandByContent)
 {
-    const std::string text = Repetitive(2000);
-    for (CompressionType type : {CompressionType_GZip, CompressionType_Zlib}) {
-        std::uint32_t length = 0;
-        void *buffer = NewBuffer(text, &length);
-        CVxZip::Compress(&buffer, &length, type);
-        ASSERT_LT(length, text.size());
-        const auto *bytes = static_cast<const unsigned char *>(buffer);
-        if (type == CompressionType_GZip) {
-            EXPECT_EQ(bytes[0], 0x1F);
-            EXPECT_EQ(bytes[1], 0x8B);
-        } else {
-            EXPECT_EQ(bytes[0], 0x78); // deflate, 32K window
-            EXPECT_EQ(bytes[1], 0x01); // level 1 announces the fastest compression
-        }
-        CVxZip::Decompress(&buffer, &length);
-        EXPECT_EQ(Take(buffer, length), text);
-    }
-}
+    const std::string text = Document(2000);
+    const CBinaryData gzip = Compressed(text, CompressionType_GZip);
+    const CBinaryData zlib = Compressed(text, CompressionType_Zlib);
+    EXPECT_EQ(Bytes(gzip).substr(0, 2), "\x1F\x8B");
+    EXPECT_EQ(Bytes(zlib).substr(0, 2), "\x78\x01"); // level 1 announces the fastest setting
+    EXPECT_EQ(Expanded(Bytes(gzip)), text);
+    EXPECT_EQ(Expanded(Bytes(zlib)), text);
 
-TEST(VxZip, BinaryDataFormReplacesTheBytes)
-{
-    const std::string text = Repetitive(100);
-    CBinaryData data(text.c_str());
-    CBinaryData shared(data);
-    CVxZip::Compress(data, CompressionType_GZip);
-    EXPECT_LT(data.GetLength(), text.size());
-    EXPECT_EQ(data[0], 0x1F);
-    // A copy taken before keeps the plain bytes.
-    EXPECT_EQ(std::string(reinterpret_cast<const char *>(shared.GetData()), shared.GetLength()), text);
-
-    CBinaryData empty;
-    CVxZip::Compress(empty, CompressionType_GZip);
-    EXPECT_EQ(empty.GetLength(), 0u);
+    for (auto type : {CompressionType_None, static_cast<CompressionType>(7)})
+        EXPECT_EQ(Bytes(Compressed(text, type)), text);
+    EXPECT_EQ(Compressed("", CompressionType_GZip).GetLength(), 0u);
 }
 
 TEST(VxZip, DataThatDoesNotShrinkFailsAndStaysWithTheCaller)
 {
-    std::uint32_t length = 0;
-    void *buffer = NewBuffer("<a/>", &length);
-    void *const original = buffer;
+    CBinaryData data("<a/>");
     try {
-        CVxZip::Compress(&buffer, &length, CompressionType_GZip);
+        CVxZip::Compress(data, CompressionType_GZip);
         FAIL() << "a gzip wrapper does not fit in four bytes";
     } catch (const CVxException &e) {
         EXPECT_EQ(e.GetMessage(), "Failed to compress data. [Error Code: -5]");
     }
-    EXPECT_EQ(buffer, original);
-    EXPECT_EQ(Take(buffer, length), "<a/>");
-
-    CBinaryData data("<a>x</a>");
-    EXPECT_THROW(CVxZip::Compress(data, CompressionType_Zlib), CVxException);
-    EXPECT_EQ(std::string(reinterpret_cast<const char *>(data.GetData()), data.GetLength()), "<a>x</a>");
-}
-
-TEST(VxZip, NoneAndUnknownTypesLeaveTheBuffer)
-{
-    const std::string text = Repetitive(50);
-    for (auto type : {CompressionType_None, static_cast<CompressionType>(7), static_cast<CompressionType>(-1)}) {
-        CBinaryData data(text.c_str());
-        CVxZip::Compress(data, type);
-        EXPECT_EQ(data.GetLength(), text.size());
-    }
+    EXPECT_EQ(Bytes(data), "<a/>");
 }
 
 TEST(VxZip, AnythingButACompleteStreamPassesThroughUntouched)
 {
-    std::uint32_t length = 0;
-    void *gzip = NewBuffer(Repetitive(500), &length);
-    CVxZip::Compress(&gzip, &length, CompressionType_GZip);
-    const std::string compressed = Take(gzip, length);
-
-    const std::string inputs[] = {
-        "<?xml version=\"1.0\"?><a/>",
-        std::string("\xFF\xFE<\0a\0/\0>\0", 10),
-        compressed.substr(0, compressed.size() / 2), // truncated
-        compressed.substr(0, 10),                    // header only
-        std::string(compressed).replace(40, 8, "garbage!"),
-        std::string(),
-    };
-    for (const std::string &input : inputs) {
-        void *buffer = NewBuffer(input, &length);
-        void *const original = buffer;
-        CVxZip::Decompress(&buffer, &length);
-        EXPECT_EQ(buffer, original);
-        EXPECT_EQ(Take(buffer, length), input);
+    const std::string gzip = Bytes(Compressed(Document(500), CompressionType_GZip));
+    for (const std::string &input : {Document(1), std::string("\xFF\xFE<\0a\0/\0>\0", 10), gzip.substr(0, gzip.size() / 2),
+                                     std::string(gzip).replace(40, 8, "garbage!"), std::string()}) {
+        bool replaced = true;
+        EXPECT_EQ(Expanded(input, &replaced), input);
+        EXPECT_FALSE(replaced);
     }
 }
 
 TEST(VxZip, ExpansionPastTheLimitIsRefusedUntilTheLimitIsRaised)
 {
-    const std::string zeros(3u << 20, '\0');
-    std::uint32_t length = 0;
-    void *buffer = NewBuffer(zeros, &length);
-    CVxZip::Compress(&buffer, &length, CompressionType_GZip);
-    {
-        MaxLengthScope limit(1u << 20);
-        try {
-            CVxZip::Decompress(&buffer, &length);
-            FAIL() << "3 MB expanded under a 1 MB limit";
-        } catch (const CVxException &e) {
-            EXPECT_EQ(e.GetMessage(),
-                      "Decompressed data exceeds the limit of [1048576] bytes (CVxZip::SetMaxDecompressedLength)");
-        }
+    const std::uint32_t saved = CVxZip::GetMaxDecompressedLength();
+    const std::string gzip = Bytes(Compressed(std::string(3u << 20, 'z'), CompressionType_GZip));
+    CVxZip::SetMaxDecompressedLength(1u << 20);
+    std::string message;
+    try {
+        Expanded(gzip);
+    } catch (const CVxException &e) {
+        message = e.GetMessage();
     }
-    {
-        MaxLengthScope limit(3u << 20); // exactly the expanded size is allowed
-        CVxZip::Decompress(&buffer, &length);
+    CVxZip::SetMaxDecompressedLength(3u << 20); // exactly the expanded size is allowed
+    const std::size_t expandedSize = Expanded(gzip).size();
+    CVxZip::SetMaxDecompressedLength(saved);
+    EXPECT_EQ(message, "Decompressed data exceeds the limit of [1048576] bytes (CVxZip::SetMaxDecompressedLength)");
+    EXPECT_EQ(expandedSize, 3u << 20);
+}
+
+// Only whole buffers are expanded: a string is parsed as it stands, and a broken
+// stream reaches the parser as the raw bytes.
+TEST(VxZip, DocumentLoadersExpandBuffersButNotStrings)
+{
+    const CBinaryData zlib = Compressed(Document(300), CompressionType_Zlib);
+    EXPECT_EQ(LoadStreamMessage(zlib), "(loaded)");
+    try {
+        CXmlDocument().LoadXml(Bytes(zlib).c_str());
+        FAIL() << "zlib bytes parsed as text";
+    } catch (const CVxException &e) {
+        EXPECT_NE(e.GetMessage().find(" at line 1"), std::string::npos) << e.GetMessage();
     }
-    EXPECT_EQ(Take(buffer, length), zeros);
+    const CBinaryData gzip = Compressed(Document(300), CompressionType_GZip);
+    EXPECT_EQ(LoadStreamMessage(CBinaryData(const_cast<unsigned char *>(gzip.GetData()), gzip.GetLength() - 9, false)),
+              "not well-formed (invalid token) at line 1");
 }
