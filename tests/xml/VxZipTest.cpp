@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <string>
 
 #include "BinaryData.h"
@@ -31,16 +32,18 @@ CBinaryData Compressed(const std::string &text, CompressionType type)
 // The raw interface on a new[] copy of the bytes; returns what the buffer holds after.
 std::string Expanded(const std::string &bytes, bool *replaced = nullptr)
 {
-    auto *buffer = new unsigned char[bytes.size() + 1];
-    bytes.copy(reinterpret_cast<char *>(buffer), bytes.size());
-    void *data = buffer;
+    std::unique_ptr<unsigned char[]> buffer(new unsigned char[bytes.size() + 1]);
+    bytes.copy(reinterpret_cast<char *>(buffer.get()), bytes.size());
+    void *data = buffer.get();
     auto length = static_cast<std::uint32_t>(bytes.size());
-    CVxZip::Decompress(&data, &length);
+    CVxZip::Decompress(&data, &length); // on success the copy is freed and replaced
     if (replaced)
-        *replaced = data != buffer;
-    std::string result(static_cast<const char *>(data), length);
-    delete[] static_cast<unsigned char *>(data);
-    return result;
+        *replaced = data != buffer.get();
+    if (data != buffer.get()) {
+        buffer.release();
+        buffer.reset(static_cast<unsigned char *>(data));
+    }
+    return std::string(reinterpret_cast<const char *>(buffer.get()), length);
 }
 
 std::string LoadStreamMessage(const CBinaryData &data)
