@@ -1,6 +1,7 @@
 #pragma once
 // The text stream the writers write on: a CStringBuffer with a target encoding. This
-// memory stream keeps everything; file streams flush their buffer to disk.
+// memory stream keeps everything; file streams flush their buffer to disk. Text stays in
+// the local encoding until it leaves the stream as bytes.
 
 #include <string>
 
@@ -33,6 +34,11 @@ public:
     std::size_t GetLength() const { return m_buffer.GetLength(); }
     XmlEncoding GetEncoding() const { return m_encoding; }
     const char *GetText() { return m_buffer.GetText(); }
+    // The text in the target encoding: UTF-8 (the bytes as they stand with ASCIIOnly), or
+    // UTF-16 little-endian without byte order mark for both UTF-16 encodings. Any other
+    // encoding, XmlEncoding_None included, fails with "Unknown Encoding, select UTF-8
+    // (contact our support team)".
+    CBinaryData GetBinaryData();
 
 protected:
     CStringBuffer &GetBuffer() { return m_buffer; }

@@ -140,6 +140,9 @@ private:
 
     void Init();
     void Parse();
+    // The first step of Parse and of the JSON parse: a gzip or zlib buffer is replaced
+    // by its expansion (bounded by CVxZip's limit); anything else stays as it is.
+    void ExpandCompressedInput();
     void ParseText();
     void LoadFileWhole(const char *fileName);
     void LoadFileInChunks(const char *fileName);

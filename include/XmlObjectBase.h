@@ -152,6 +152,11 @@ public:
     static void TestNamespace(const char *namespaceUri, const char *rule, const char *targetNamespace);
 
 private:
+    // The steps of ToXml on any text stream: open, options, declaration, the object,
+    // close. File streams write while these run.
+    void WriteXml(CTextStream &stream, bool docHeader, bool formatted, EOLType eol,
+                  const CSerializationContext &context) const;
+
     std::string m_elementName;
     std::atomic<std::int32_t> m_refCount{0};
 };

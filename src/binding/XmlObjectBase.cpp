@@ -100,10 +100,9 @@ void CXmlObjectBase::FireOnCollectionRemoveCompleteEvent(IEventSink *sink, CXmlC
     sink->OnEvent(source->GetBase(), MsgType_CollectionRemoveComplete, index == -1 ? nullptr : &index);
 }
 
-std::string CXmlObjectBase::ToXml(bool docHeader, bool formatted, EOLType eol,
-                                  const CSerializationContext &context) const
+void CXmlObjectBase::WriteXml(CTextStream &stream, bool docHeader, bool formatted, EOLType eol,
+                              const CSerializationContext &context) const
 {
-    CTextStream stream(XmlEncoding_None);
     CXmlTextWriter writer(&stream);
     writer.StartDocument();
     writer.SetFormatted(formatted);
@@ -115,6 +114,13 @@ std::string CXmlObjectBase::ToXml(bool docHeader, bool formatted, EOLType eol,
     const std::string targetNamespace = GetTargetNamespace();
     ToXml_Int(&writer, true, targetNamespace.c_str(), context, false);
     writer.EndDocument();
+}
+
+std::string CXmlObjectBase::ToXml(bool docHeader, bool formatted, EOLType eol,
+                                  const CSerializationContext &context) const
+{
+    CTextStream stream(XmlEncoding_None);
+    WriteXml(stream, docHeader, formatted, eol, context);
     const std::size_t length = stream.GetLength();
     return std::string(stream.GetText(), length);
 }

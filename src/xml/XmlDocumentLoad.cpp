@@ -4,7 +4,9 @@
 #include <cstring>
 #include <memory>
 
+#include "BinaryData.h"
 #include "Exceptions.h"
+#include "VxZip.h"
 #include "XmlDocument.h"
 #include "XmlObjectBase.h"
 #include "platform/HugeBlock.h"
@@ -105,10 +107,36 @@ void CXmlDocument::Load(const char *fileName)
         LoadFileWhole(fileName);
 }
 
+void CXmlDocument::ExpandCompressedInput()
+{
+    // A UTF-16 file written compressed has its byte order mark in front of the
+    // compressed bytes; the mark stays in front of the expansion.
+    const bool marked = m_dataLength >= 2 && m_data[0] == 0xFF && m_data[1] == 0xFE;
+    if (!marked) {
+        void *data = m_data;
+        CVxZip::Decompress(&data, &m_dataLength);
+        m_data = static_cast<unsigned char *>(data);
+        return;
+    }
+    CBinaryData expanded;
+    if (!CVxZip::Decompress(m_data + 2, m_dataLength - 2, expanded))
+        return;
+    const std::uint32_t length = 2 + expanded.GetLength();
+    std::unique_ptr<unsigned char[]> data(new unsigned char[length]);
+    data[0] = 0xFF;
+    data[1] = 0xFE;
+    if (expanded.GetLength() != 0)
+        std::memcpy(data.get() + 2, expanded.GetData(), expanded.GetLength());
+    delete[] m_data;
+    m_data = data.release();
+    m_dataLength = length;
+}
+
 void CXmlDocument::Parse()
 {
     // Whole buffers are where compressed input is unpacked and Fast Infoset is told
-    // from text; what reaches this point is XML text.
+    // from text; the string loaders and the chunked file path come in by ParseText.
+    ExpandCompressedInput();
     ParseText();
 }
 

@@ -1,0 +1,213 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <functional>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include "../values/LocalTextScope.h"
+#include "BinaryData.h"
+#include "BinaryStream.h"
+#include "Exceptions.h"
+#include "FileTextStream.h"
+#include "LinesOrder.h"
+#include "LocalText.h"
+
+using namespace VxXmlLib16;
+
+namespace {
+
+using Order = VxTest::LinesOrder;
+
+class AsyncScope
+{
+public:
+    explicit AsyncScope(bool on) : m_saved(IsAsyncToXmlFile()) { AsyncToXmlFile(on); }
+    ~AsyncScope() { AsyncToXmlFile(m_saved); }
+
+private:
+    bool m_saved;
+};
+
+std::string Bytes(const CBinaryData &data)
+{
+    return std::string(reinterpret_cast<const char *>(data.GetData()), data.GetLength());
+}
+
+std::string ReadFile(const std::string &path)
+{
+    std::ifstream file(path, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
+}
+
+std::string TempPath(const char *name) { return std::string(VX_TEST_TMP_DIR) + "/" + name; }
+
+std::string MessageOf(const std::function<void()> &action)
+{
+    try {
+        action();
+    } catch (const CVxException &e) {
+        return e.GetMessage();
+    }
+    return "(no exception)";
+}
+
+const char *const UnknownEncoding = "Unknown Encoding, select UTF-8 (contact our support team)";
+const std::string Bom("\xFF\xFE", 2);
+
+} // namespace
+
+TEST(Streams, ToXmlStreamEncodesWithoutByteOrderMark)
+{
+    Order order(3);
+    const std::string text = order.ToXml(true);
+    EXPECT_EQ(Bytes(order.ToXmlStream(false, true, XmlEncoding_UTF8)), order.ToXml(false));
+    // UTF-16 without a name in the declaration is exactly the text in little-endian units.
+    const std::string utf16 = Bytes(order.ToXmlStream(true, true, XmlEncoding_UTF16NoDecl));
+    EXPECT_EQ(utf16, Bytes(LocalToUtf16Data(text.c_str())));
+    EXPECT_EQ(utf16.substr(0, 4), std::string("<\0?\0", 4));
+    EXPECT_NE(utf16.find(std::string("\xE9\0", 2)), std::string::npos);
+    EXPECT_NE(Bytes(order.ToXmlStream(true, true, XmlEncoding_UTF16)).find(Bytes(LocalToUtf16Data("encoding=\"UTF-16\"?>"))),
+              std::string::npos);
+}
+
+TEST(Streams, EncodingsWithoutBytesFailOnlyWhenBytesAreAsked)
+{
+    Order order(1);
+    EXPECT_NO_THROW(order.ToXml());
+    for (auto encoding : {XmlEncoding_None, static_cast<XmlEncoding>(4), static_cast<XmlEncoding>(-3)})
+        EXPECT_EQ(MessageOf([&] { order.ToXmlStream(true, true, encoding); }), UnknownEncoding);
+
+    // ASCIIOnly passes narrow bytes to UTF-8 as they stand, but not to UTF-16.
+    LocalTextScope latin1(28591);
+    CTextStream utf8(XmlEncoding_UTF8), utf16(XmlEncoding_UTF16);
+    utf8.Append("\xE9");
+    utf16.Append("\xE9");
+    EXPECT_EQ(Bytes(utf8.GetBinaryData()), "\xC3\xA9");
+    ASCIIOnly(true);
+    EXPECT_EQ(Bytes(utf8.GetBinaryData()), "\xE9");
+    EXPECT_EQ(Bytes(utf16.GetBinaryData()), std::string("\xE9\0", 2));
+}
+
+TEST(Streams, CompressedStreamsReadBack)
+{
+    Order order(200);
+    const auto &context = CSerializationContext::GetDefaultContext();
+    for (auto encoding : {XmlEncoding_UTF8, XmlEncoding_UTF16})
+        for (auto compression : {CompressionType_GZip, CompressionType_Zlib}) {
+            const CBinaryData data = order.ToXmlStream(true, true, encoding, EOLType_LF, context, compression);
+            EXPECT_EQ(data[0], compression == CompressionType_GZip ? 0x1F : 0x78);
+            Order back(0);
+            back.FromXmlStream(data);
+            EXPECT_TRUE(back.ReadLines() == Order::LinesOf(200));
+        }
+    // Too short to shrink under a gzip wrapper; zlib's result code follows.
+    EXPECT_EQ(MessageOf([&] { Order(0).ToXmlStream(false, false, XmlEncoding_UTF8, EOLType_LF, context, CompressionType_GZip); })
+                  .rfind("Failed to compress data. [Error Code: ", 0),
+              0u);
+}
+
+// Every route to a file gives the mark for UTF-16 (before gzip data too) and the bytes
+// of ToXmlStream after it; the text is long enough for many flushes of the file stream.
+TEST(Streams, ToXmlFileBytesForEveryEncodingCompressionAndSwitch)
+{
+    Order order(3000);
+    const auto &context = CSerializationContext::GetDefaultContext();
+    const std::string path = TempPath("order.xml");
+    for (bool async : {false, true}) {
+        AsyncScope scope(async);
+        for (auto encoding : {XmlEncoding_UTF8, XmlEncoding_UTF16, XmlEncoding_UTF16NoDecl})
+            for (auto compression : {CompressionType_None, CompressionType_GZip, static_cast<CompressionType>(9)}) {
+                SCOPED_TRACE(testing::Message() << async << " " << encoding << " " << compression);
+                order.ToXmlFile(path.c_str(), true, true, encoding, EOLType_CRLF, context, compression);
+                const std::string file = ReadFile(path);
+                EXPECT_TRUE(file == (encoding == XmlEncoding_UTF8 ? "" : Bom) +
+                                        Bytes(order.ToXmlStream(true, true, encoding, EOLType_CRLF, context, compression)));
+                EXPECT_EQ(file.substr(encoding == XmlEncoding_UTF8 ? 0 : 2, 2),
+                          compression == CompressionType_GZip ? "\x1F\x8B" : encoding == XmlEncoding_UTF8 ? "<?" : std::string("<\0", 2));
+                Order back(0);
+                back.FromXmlFile(path.c_str());
+                EXPECT_TRUE(back.ReadLines() == Order::LinesOf(3000));
+            }
+    }
+    std::filesystem::remove(path);
+}
+
+TEST(Streams, ZlibIsRefusedForFilesBeforeAnythingIsCreated)
+{
+    const std::string path = TempPath("never.xml");
+    std::filesystem::remove(path);
+    for (bool async : {false, true}) {
+        AsyncScope scope(async);
+        try {
+            Order(10).ToXmlFile(path.c_str(), true, true, XmlEncoding_UTF8, EOLType_LF,
+                                CSerializationContext::GetDefaultContext(), CompressionType_Zlib);
+            ADD_FAILURE() << "zlib written to a file";
+        } catch (const CVxValidationException &) {
+            ADD_FAILURE() << "a plain CVxException is expected";
+        } catch (const CVxException &e) {
+            EXPECT_EQ(e.GetMessage(), "ZLIB Compression only available for To Stream methods.");
+        }
+        EXPECT_FALSE(std::filesystem::exists(path));
+    }
+}
+
+TEST(Streams, FileStreamWritesTheMarkAndFlushesInOrder)
+{
+    const std::string path = TempPath("stream.xml");
+    for (auto encoding : {XmlEncoding_UTF8, XmlEncoding_UTF16}) {
+        CFileTextStream stream(path.c_str(), encoding);
+        stream.Open();
+        stream.Flush(); // nothing to send
+        stream.Close();
+        EXPECT_EQ(ReadFile(path), encoding == XmlEncoding_UTF8 ? "" : Bom);
+    }
+    CFileTextStream stream(path.c_str(), XmlEncoding_UTF16);
+    stream.Open();
+    std::string expected;
+    for (int i = 0; i < 50; ++i) {
+        expected += "<p n=\"" + std::to_string(i) + "\">\xC3\xA9</p>";
+        stream.Append(expected.c_str() + expected.rfind("<p"));
+        stream.Flush();
+    }
+    stream.Close();
+    EXPECT_EQ(ReadFile(path), Bom + Bytes(LocalToUtf16Data(expected.c_str())));
+
+    // Finished binary output takes the mark by its encoding alone.
+    CBinaryStream binary;
+    binary.Append(CBinaryData("\x1F\x8B"));
+    binary.Append(static_cast<unsigned char>(0));
+    CFileBinaryStream(path.c_str(), XmlEncoding_UTF16NoDecl, binary.GetData()).Save();
+    EXPECT_EQ(ReadFile(path), Bom + std::string("\x1F\x8B\0", 3));
+    std::filesystem::remove(path);
+}
+
+TEST(Streams, FileErrorsCarryTheSystemErrorNumber)
+{
+    Order order(2000);
+    const std::string missing = TempPath("no-such-dir/order.xml");
+    for (bool async : {false, true}) {
+        AsyncScope scope(async);
+        EXPECT_EQ(MessageOf([&] { order.ToXmlFile(missing.c_str()); }),
+                  "Failed to write data to the file [" + missing + "] error [0x00000002]");
+    }
+    // A device that is always full fails the writes themselves (ENOSPC, 28).
+    AsyncScope off(false);
+    EXPECT_EQ(MessageOf([&] { order.ToXmlFile("/dev/full"); }),
+              "Failed to write data to the file [/dev/full] error [0x0000001C]");
+    AsyncScope on(true);
+    EXPECT_EQ(MessageOf([&] { order.ToXmlFile("/dev/full", true, true, XmlEncoding_UTF16); }),
+              "Failed to write data to the file. Error [0x0000001C]");
+    // Bytes still gathered (here the mark alone) fail when the stream closes.
+    EXPECT_EQ(MessageOf([] {
+                  CFileTextStream stream("/dev/full", XmlEncoding_UTF16);
+                  stream.Open();
+                  stream.Close();
+              }),
+              "Failed to write data to the file. Error [0x0000001C]");
+    // Without bytes to write the file stream fails as the memory stream does.
+    const std::string path = TempPath("none.xml");
+    EXPECT_EQ(MessageOf([&] { order.ToXmlFile(path.c_str(), true, true, XmlEncoding_None); }), UnknownEncoding);
+    std::filesystem::remove(path);
+}
