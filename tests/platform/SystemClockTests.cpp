@@ -4,7 +4,7 @@
 #include <ctime>
 #include <string>
 
-#include "DateTime.h"
+#include "DateTestSupport.h"
 #include "platform/SystemClock.h"
 
 using VxXmlLib16::CDateTime;
@@ -90,11 +90,7 @@ TEST(SystemClock, ValuesDoNotDependOnTheMachineZone)
     {
         ScopedZone zone("UTC");
         for (std::size_t i = 0; i < std::size(texts); ++i) {
-            CDateTime value;
-            if (std::string(texts[i]).find('T') != std::string::npos)
-                value.ParseXSDDateTime(texts[i]);
-            else
-                value.ParseXSDDate(texts[i]);
+            const CDateTime value = VxTest::DateValue(texts[i]);
             utcTimes[i] = value.GetTime();
             utcDays[i] = value.GetDayOfWeek();
         }
@@ -103,11 +99,7 @@ TEST(SystemClock, ValuesDoNotDependOnTheMachineZone)
         ScopedZone zone(zoneName);
         for (std::size_t i = 0; i < std::size(texts); ++i) {
             SCOPED_TRACE(std::string(zoneName) + " " + texts[i]);
-            CDateTime value;
-            if (std::string(texts[i]).find('T') != std::string::npos)
-                value.ParseXSDDateTime(texts[i]);
-            else
-                value.ParseXSDDate(texts[i]);
+            const CDateTime value = VxTest::DateValue(texts[i]);
             EXPECT_EQ(utcTimes[i], value.GetTime());
             EXPECT_EQ(utcDays[i], value.GetDayOfWeek());
             EXPECT_EQ(CDateTime(utcTimes[i]).ToString(), CDateTime(value.GetTime()).ToString());

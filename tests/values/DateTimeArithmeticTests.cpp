@@ -13,26 +13,8 @@ using VxTest::FailsWith;
 
 namespace {
 
-// A dateTime, time or date-shaped text.
-CDateTime Value(const char *text)
-{
-    const std::string form(text);
-    CDateTime value;
-    if (form.find('T') != std::string::npos)
-        value.ParseXSDDateTime(text);
-    else if (form.size() > 2 && form[2] == ':')
-        value.ParseXSDTime(text);
-    else
-        value.ParseXSDDate(text);
-    return value;
-}
-
-CDateTimeSpan Span(const char *text)
-{
-    CDateTimeSpan span;
-    span.ParseXSDDuration(text);
-    return span;
-}
+CDateTime Value(const char *text) { return VxTest::DateValue(text); }
+CDateTimeSpan Span(const char *text) { return VxTest::SpanValue(text); }
 
 } // namespace
 

@@ -10,12 +10,7 @@ using VxTest::FailsWith;
 
 namespace {
 
-CDateTimeSpan Span(const char *text)
-{
-    CDateTimeSpan span;
-    span.ParseXSDDuration(text);
-    return span;
-}
+CDateTimeSpan Span(const char *text) { return VxTest::SpanValue(text); }
 
 std::string Expected(const char *text)
 {
