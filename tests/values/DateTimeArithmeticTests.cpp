@@ -42,9 +42,10 @@ TEST(DateTimeArithmetic, AddingAndSubtractingSpans)
         {"2001-01-01", '+', "P4294967295D", "30278-04-16"},
         {"2001-01-01", '-', "P4294967295D", "-26277-09-19"},
         {"9999-12-31", '+', "P30000000D", "26601-03-18"},
-        // The month step rounds to month -1 (held as 255); the days then climb through
-        // months beyond December.
+        // The month step rounds to a month outside the calendar; the days then run through
+        // months beyond December, or below month 0 going back.
         {"1697-02-01", '+', "P52127277M1401626297D", "20261-54-17"},
+        {"2001-01-31T12:00:00+05:00", '-', "P52127377M4111626297D", "-16571-238-20T12:00:00+05:00"},
         {"2001-10-26T00:00:00", '+', "P1Y2M3DT4H5M6.5S", "2002-12-29T04:05:06.5"},
         {"2001-01-31T23:59:59", '+', "PT1S", "2001-02-01T00:00:00"},
         {"2001-01-01T00:00:00", '-', "PT0.000000001S", "2000-12-31T23:59:59.999999999"},
