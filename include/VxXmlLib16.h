@@ -22,6 +22,8 @@
 #include "WhitespaceUtils.h"
 #include "Conversions.h"
 #include "LocalText.h"
+#include "BigInteger.h"
+#include "Decimal.h"
 #include "SystemTime.h"
 #include "DateTime.h"
 #include "DateTimeSpan.h"

@@ -130,6 +130,27 @@ protected:
     static void FireOnCollectionRemoveEvent(IEventSink *sink, CXmlCollectionBase *source, int index);
     static void FireOnCollectionRemoveCompleteEvent(IEventSink *sink, CXmlCollectionBase *source, int index);
 
+    // Choice helpers: generated code tracks a choice in one string, the name of the
+    // selected member, empty when none.
+    static void Choice_Read_Collection(CXmlCollectionBase *collection, CXmlElement *parent, CXmlElement *&cursor,
+                                       std::int32_t &count, const CSerializationContext &context);
+    static void Choice_CollectionChanged(const char *name, std::int32_t count, std::string &selected);
+    static void Choice_SelectElement(const char *name, CXmlObjectBase *value, std::string &selected);
+    static void Choice_SetElementValid(bool valid, const char *name, std::string &selected);
+
+    static void Throw_IfElementNameDiffers(CXmlObjectBase *value, const char *name);
+    static void Throw_IfPropertyIsNull(CXmlObjectBase *value, const char *name);
+
+    bool DoesElementNameMatch(const CSerializationContext &context, const CXmlElement *element, const char *name,
+                              const char *namespaceUri) const;
+
+public:
+    // The namespace rule of a wildcard or anyAttribute: "##any", "##other", "##local",
+    // "##targetNamespace" or a URI. Only the first token of a list decides (an empty
+    // namespace may still pass a list); TestNamespace throws where IsNamespaceValid says false.
+    static bool IsNamespaceValid(const char *namespaceUri, const char *rule, const char *targetNamespace);
+    static void TestNamespace(const char *namespaceUri, const char *rule, const char *targetNamespace);
+
 private:
     std::string m_elementName;
     std::atomic<std::int32_t> m_refCount{0};
