@@ -41,7 +41,7 @@ public:
 
     void Put(const Unit *units, std::size_t count)
     {
-        if (m_total + count <= m_capacity)
+        if (count != 0 && m_total + count <= m_capacity)
             std::memcpy(m_out + m_total, units, count * sizeof(Unit));
         m_total += count;
     }
