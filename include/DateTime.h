@@ -155,7 +155,6 @@ private:
                      unsigned short nano);
     // Runs the setter, turning an invalid value into a cleared object.
     template <class Setter> void AssignOrClear(Setter setter);
-    void RequireField(bool has, const char *accessor) const;
     void SetXSDDate(std::string_view text);
     void SetXSDTime(std::string_view text);
     void SetZone(std::string_view text);

@@ -170,125 +170,65 @@ void CDateTime::SetDateTime(const CDateTime &source, DTType wanted)
     m_type = wanted;
 }
 
-void CDateTime::RequireField(bool has, const char *accessor) const
+namespace {
+
+// Each field, the test of whether a type has it, and the name its accessors report; the
+// setters report the getter's name too.
+struct FieldAccess
 {
-    if (!has)
+    bool (*has)(CDateTime::DTType);
+    const char *name;
+};
+constexpr FieldAccess YearField{HasYear, "GetYear"};
+constexpr FieldAccess MonthField{HasMonth, "GetMonth"};
+constexpr FieldAccess DayField{HasDay, "GetDay"};
+constexpr FieldAccess HourField{HasTime, "GetHour"};
+constexpr FieldAccess MinuteField{HasTime, "GetMinute"};
+constexpr FieldAccess SecondField{HasTime, "GetSecond"};
+constexpr FieldAccess RealSecondField{HasTime, "GetRealSecond"};
+constexpr FieldAccess MilliField{HasTime, "GetMilliSecond"};
+constexpr FieldAccess MicroField{HasTime, "GetMicroSecond"};
+constexpr FieldAccess NanoField{HasTime, "GetNanoSecond"};
+
+void Require(CDateTime::DTType type, const FieldAccess &field)
+{
+    if (!field.has(type))
         throw CVxInvalidStateException(
-            FormatString("Failed to %s. Invalid Date Type: %s.", accessor, TypeName(m_type)));
+            FormatString("Failed to %s. Invalid Date Type: %s.", field.name, TypeName(type)));
 }
 
-short CDateTime::GetYear() const
+// The member, once the type is known to have it.
+template <class T> T &Checked(CDateTime::DTType type, const FieldAccess &field, T &member)
 {
-    RequireField(HasYear(m_type), "GetYear");
-    return m_year;
+    Require(type, field);
+    return member;
 }
 
-void CDateTime::SetYear(short year)
-{
-    RequireField(HasYear(m_type), "GetYear");
-    m_year = year;
-}
+} // namespace
 
-unsigned char CDateTime::GetMonth() const
-{
-    RequireField(HasMonth(m_type), "GetMonth");
-    return m_month;
-}
-
-void CDateTime::SetMonth(unsigned char month)
-{
-    RequireField(HasMonth(m_type), "GetMonth");
-    m_month = month;
-}
-
-unsigned char CDateTime::GetDay() const
-{
-    RequireField(HasDay(m_type), "GetDay");
-    return m_day;
-}
-
-void CDateTime::SetDay(unsigned char day)
-{
-    RequireField(HasDay(m_type), "GetDay");
-    m_day = day;
-}
-
-unsigned char CDateTime::GetHour() const
-{
-    RequireField(HasTime(m_type), "GetHour");
-    return m_hour;
-}
-
-void CDateTime::SetHour(unsigned char hour)
-{
-    RequireField(HasTime(m_type), "GetHour");
-    m_hour = hour;
-}
-
-unsigned char CDateTime::GetMinute() const
-{
-    RequireField(HasTime(m_type), "GetMinute");
-    return m_minute;
-}
-
-void CDateTime::SetMinute(unsigned char minute)
-{
-    RequireField(HasTime(m_type), "GetMinute");
-    m_minute = minute;
-}
-
-unsigned char CDateTime::GetSecond() const
-{
-    RequireField(HasTime(m_type), "GetSecond");
-    return m_second;
-}
-
-void CDateTime::SetSecond(unsigned char second)
-{
-    RequireField(HasTime(m_type), "GetSecond");
-    m_second = second;
-}
+short CDateTime::GetYear() const { return Checked(m_type, YearField, m_year); }
+void CDateTime::SetYear(short year) { Checked(m_type, YearField, m_year) = year; }
+unsigned char CDateTime::GetMonth() const { return Checked(m_type, MonthField, m_month); }
+void CDateTime::SetMonth(unsigned char month) { Checked(m_type, MonthField, m_month) = month; }
+unsigned char CDateTime::GetDay() const { return Checked(m_type, DayField, m_day); }
+void CDateTime::SetDay(unsigned char day) { Checked(m_type, DayField, m_day) = day; }
+unsigned char CDateTime::GetHour() const { return Checked(m_type, HourField, m_hour); }
+void CDateTime::SetHour(unsigned char hour) { Checked(m_type, HourField, m_hour) = hour; }
+unsigned char CDateTime::GetMinute() const { return Checked(m_type, MinuteField, m_minute); }
+void CDateTime::SetMinute(unsigned char minute) { Checked(m_type, MinuteField, m_minute) = minute; }
+unsigned char CDateTime::GetSecond() const { return Checked(m_type, SecondField, m_second); }
+void CDateTime::SetSecond(unsigned char second) { Checked(m_type, SecondField, m_second) = second; }
+unsigned short CDateTime::GetMilliSecond() const { return Checked(m_type, MilliField, m_milli); }
+void CDateTime::SetMilliSecond(unsigned short milli) { Checked(m_type, MilliField, m_milli) = milli; }
+unsigned short CDateTime::GetMicroSecond() const { return Checked(m_type, MicroField, m_micro); }
+void CDateTime::SetMicroSecond(unsigned short micro) { Checked(m_type, MicroField, m_micro) = micro; }
+unsigned short CDateTime::GetNanoSecond() const { return Checked(m_type, NanoField, m_nano); }
+void CDateTime::SetNanoSecond(unsigned short nano) { Checked(m_type, NanoField, m_nano) = nano; }
 
 double CDateTime::GetRealSecond() const
 {
-    RequireField(HasTime(m_type), "GetRealSecond");
+    Require(m_type, RealSecondField);
     return m_second + m_milli / 1000.0 + m_micro / 1e6 + m_nano / 1e9;
-}
-
-unsigned short CDateTime::GetMilliSecond() const
-{
-    RequireField(HasTime(m_type), "GetMilliSecond");
-    return m_milli;
-}
-
-void CDateTime::SetMilliSecond(unsigned short milli)
-{
-    RequireField(HasTime(m_type), "GetMilliSecond");
-    m_milli = milli;
-}
-
-unsigned short CDateTime::GetMicroSecond() const
-{
-    RequireField(HasTime(m_type), "GetMicroSecond");
-    return m_micro;
-}
-
-void CDateTime::SetMicroSecond(unsigned short micro)
-{
-    RequireField(HasTime(m_type), "GetMicroSecond");
-    m_micro = micro;
-}
-
-unsigned short CDateTime::GetNanoSecond() const
-{
-    RequireField(HasTime(m_type), "GetNanoSecond");
-    return m_nano;
-}
-
-void CDateTime::SetNanoSecond(unsigned short nano)
-{
-    RequireField(HasTime(m_type), "GetNanoSecond");
-    m_nano = nano;
 }
 
 void CDateTime::SetTimeZone(short hour, unsigned char minute)

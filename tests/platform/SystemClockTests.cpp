@@ -3,8 +3,9 @@
 #include <cstdlib>
 #include <ctime>
 #include <string>
+#include <vector>
 
-#include "DateTime.h"
+#include "DateTestSupport.h"
 #include "platform/SystemClock.h"
 
 using VxXmlLib16::CDateTime;
@@ -51,10 +52,11 @@ private:
 
 TEST(SystemClock, FileTimeTicksIntoCalendarFields)
 {
+    // Year, month, day of the week (0 for Sunday), day, hour, minute, second, milli.
     const struct
     {
         std::uint64_t ticks;
-        SYSTEMTIME expected;
+        std::vector<int> expected;
     } cases[] = {
         {0, {1601, 1, 1, 1, 0, 0, 0, 0}},
         {116444736000000000ULL, {1970, 1, 4, 1, 0, 0, 0, 0}},
@@ -63,17 +65,11 @@ TEST(SystemClock, FileTimeTicksIntoCalendarFields)
         {0x7FFFFFFFFFFFFFFFULL, {30828, 9, 4, 14, 2, 48, 5, 477}},
     };
     for (const auto &c : cases) {
-        SCOPED_TRACE(c.ticks);
-        SYSTEMTIME time{};
-        ASSERT_TRUE(VxPlatform::FileTimeToSystemTime(Ticks(c.ticks), time));
-        EXPECT_EQ(c.expected.wYear, time.wYear);
-        EXPECT_EQ(c.expected.wMonth, time.wMonth);
-        EXPECT_EQ(c.expected.wDayOfWeek, time.wDayOfWeek);
-        EXPECT_EQ(c.expected.wDay, time.wDay);
-        EXPECT_EQ(c.expected.wHour, time.wHour);
-        EXPECT_EQ(c.expected.wMinute, time.wMinute);
-        EXPECT_EQ(c.expected.wSecond, time.wSecond);
-        EXPECT_EQ(c.expected.wMilliseconds, time.wMilliseconds);
+        SYSTEMTIME t{};
+        ASSERT_TRUE(VxPlatform::FileTimeToSystemTime(Ticks(c.ticks), t));
+        EXPECT_EQ(c.expected, (std::vector<int>{t.wYear, t.wMonth, t.wDayOfWeek, t.wDay, t.wHour, t.wMinute,
+                                                t.wSecond, t.wMilliseconds}))
+            << c.ticks;
     }
     SYSTEMTIME time{};
     EXPECT_FALSE(VxPlatform::FileTimeToSystemTime(Ticks(0x8000000000000000ULL), time));
@@ -90,11 +86,7 @@ TEST(SystemClock, ValuesDoNotDependOnTheMachineZone)
     {
         ScopedZone zone("UTC");
         for (std::size_t i = 0; i < std::size(texts); ++i) {
-            CDateTime value;
-            if (std::string(texts[i]).find('T') != std::string::npos)
-                value.ParseXSDDateTime(texts[i]);
-            else
-                value.ParseXSDDate(texts[i]);
+            const CDateTime value = VxTest::DateValue(texts[i]);
             utcTimes[i] = value.GetTime();
             utcDays[i] = value.GetDayOfWeek();
         }
@@ -103,11 +95,7 @@ TEST(SystemClock, ValuesDoNotDependOnTheMachineZone)
         ScopedZone zone(zoneName);
         for (std::size_t i = 0; i < std::size(texts); ++i) {
             SCOPED_TRACE(std::string(zoneName) + " " + texts[i]);
-            CDateTime value;
-            if (std::string(texts[i]).find('T') != std::string::npos)
-                value.ParseXSDDateTime(texts[i]);
-            else
-                value.ParseXSDDate(texts[i]);
+            const CDateTime value = VxTest::DateValue(texts[i]);
             EXPECT_EQ(utcTimes[i], value.GetTime());
             EXPECT_EQ(utcDays[i], value.GetDayOfWeek());
             EXPECT_EQ(CDateTime(utcTimes[i]).ToString(), CDateTime(value.GetTime()).ToString());

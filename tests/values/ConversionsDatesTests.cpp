@@ -68,8 +68,3 @@ TEST(ConversionsDates, Durations)
     EXPECT_EQ("-P1Y2M3DT4H5M6.123456009S", CConversions::durationToString(span));
     EXPECT_EQ("P", CConversions::durationToString(CDateTimeSpan()));
 }
-
-TEST(ConversionsDates, UnsetValuePrintsTheNotSetText)
-{
-    EXPECT_EQ("Error: Date Not Set", CConversions::dateToString(CDateTime()));
-}

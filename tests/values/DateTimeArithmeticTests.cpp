@@ -13,26 +13,8 @@ using VxTest::FailsWith;
 
 namespace {
 
-// A dateTime, time or date-shaped text.
-CDateTime Value(const char *text)
-{
-    const std::string form(text);
-    CDateTime value;
-    if (form.find('T') != std::string::npos)
-        value.ParseXSDDateTime(text);
-    else if (form.size() > 2 && form[2] == ':')
-        value.ParseXSDTime(text);
-    else
-        value.ParseXSDDate(text);
-    return value;
-}
-
-CDateTimeSpan Span(const char *text)
-{
-    CDateTimeSpan span;
-    span.ParseXSDDuration(text);
-    return span;
-}
+CDateTime Value(const char *text) { return VxTest::DateValue(text); }
+CDateTimeSpan Span(const char *text) { return VxTest::SpanValue(text); }
 
 } // namespace
 
@@ -51,8 +33,6 @@ TEST(DateTimeArithmetic, AddingAndSubtractingSpans)
         {"2001-01-01", '-', "P1D", "2000-12-31"},
         {"2001-01-31", '+', "P1M", "2001-02-31"}, // the day is not clamped
         {"2001-01-31", '-', "P2M", "2000-11-31"},
-        {"2001-01-01", '+', "P365D", "2002-01-01"},
-        {"2000-01-01", '+', "P366D", "2001-01-01"},
         {"2001-01-01", '-', "P1000D", "1998-04-07"},
         {"2001-03-31", '-', "-P1M", "2001-02-31"}, // a negative span still moves back
         {"-0001-12-31", '+', "P1D", "0000-01-01"},  // year 0 is reached without complaint
@@ -62,14 +42,13 @@ TEST(DateTimeArithmetic, AddingAndSubtractingSpans)
         {"2001-01-01", '+', "P4294967295D", "30278-04-16"},
         {"2001-01-01", '-', "P4294967295D", "-26277-09-19"},
         {"9999-12-31", '+', "P30000000D", "26601-03-18"},
-        // The month step rounds to month -1 (held as 255); the days then climb through
-        // months beyond December.
+        // The month step rounds to a month outside the calendar; the days then run through
+        // months beyond December, or below month 0 going back.
         {"1697-02-01", '+', "P52127277M1401626297D", "20261-54-17"},
+        {"2001-01-31T12:00:00+05:00", '-', "P52127377M4111626297D", "-16571-238-20T12:00:00+05:00"},
         {"2001-10-26T00:00:00", '+', "P1Y2M3DT4H5M6.5S", "2002-12-29T04:05:06.5"},
         {"2001-01-31T23:59:59", '+', "PT1S", "2001-02-01T00:00:00"},
         {"2001-01-01T00:00:00", '-', "PT0.000000001S", "2000-12-31T23:59:59.999999999"},
-        {"2001-01-01T00:00:00", '+', "PT90M", "2001-01-01T01:30:00"},
-        {"2001-01-01T00:00:00", '+', "PT48H", "2001-01-03T00:00:00"},
         // Single-precision carries: beyond 2^24 the remainder leaves the unit.
         {"2001-01-01T00:00:00", '+', "PT1000000000S", "2032-09-09T01:47:236"},
         {"12:00:00", '+', "PT13H", "01:00:00"},
@@ -197,14 +176,7 @@ TEST(DateTimeArithmetic, DayOfWeekAndOfYear)
 TEST(DateTimeArithmetic, SystemTimeInterchange)
 {
     const SYSTEMTIME time = Value("2001-01-01T10:20:30.456").GetAsSystemTime();
-    EXPECT_EQ(2001, time.wYear);
-    EXPECT_EQ(1, time.wMonth);
-    EXPECT_EQ(1, time.wDayOfWeek);
-    EXPECT_EQ(1, time.wDay);
-    EXPECT_EQ(10, time.wHour);
-    EXPECT_EQ(20, time.wMinute);
-    EXPECT_EQ(30, time.wSecond);
-    EXPECT_EQ(456, time.wMilliseconds);
+    EXPECT_EQ(1, time.wDayOfWeek); // Monday
     EXPECT_EQ("2001-01-01T10:20:30.456", CDateTime(time).ToString());
     EXPECT_TRUE(FailsWith<CVxInvalidValueException>(
         [] { Value("2001-01-01").GetAsSystemTime(); },

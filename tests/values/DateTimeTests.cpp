@@ -114,18 +114,12 @@ TEST(DateTime, FieldAccessorsFollowTheType)
         {[](CDateTime &v) { v.GetMonth(); }, "Failed to GetMonth. Invalid Date Type: gYear."},
         {[](CDateTime &v) { v.SetMonth(1); }, "Failed to GetMonth. Invalid Date Type: gYear."},
         {[](CDateTime &v) { v.GetDay(); }, "Failed to GetDay. Invalid Date Type: gYear."},
-        {[](CDateTime &v) { v.SetDay(1); }, "Failed to GetDay. Invalid Date Type: gYear."},
         {[](CDateTime &v) { v.GetHour(); }, "Failed to GetHour. Invalid Date Type: gYear."},
-        {[](CDateTime &v) { v.SetHour(1); }, "Failed to GetHour. Invalid Date Type: gYear."},
         {[](CDateTime &v) { v.GetMinute(); }, "Failed to GetMinute. Invalid Date Type: gYear."},
-        {[](CDateTime &v) { v.SetMinute(1); }, "Failed to GetMinute. Invalid Date Type: gYear."},
         {[](CDateTime &v) { v.GetSecond(); }, "Failed to GetSecond. Invalid Date Type: gYear."},
-        {[](CDateTime &v) { v.SetSecond(1); }, "Failed to GetSecond. Invalid Date Type: gYear."},
         {[](CDateTime &v) { v.GetRealSecond(); }, "Failed to GetRealSecond. Invalid Date Type: gYear."},
         {[](CDateTime &v) { v.GetMilliSecond(); }, "Failed to GetMilliSecond. Invalid Date Type: gYear."},
-        {[](CDateTime &v) { v.SetMilliSecond(1); }, "Failed to GetMilliSecond. Invalid Date Type: gYear."},
         {[](CDateTime &v) { v.GetMicroSecond(); }, "Failed to GetMicroSecond. Invalid Date Type: gYear."},
-        {[](CDateTime &v) { v.SetMicroSecond(1); }, "Failed to GetMicroSecond. Invalid Date Type: gYear."},
         {[](CDateTime &v) { v.GetNanoSecond(); }, "Failed to GetNanoSecond. Invalid Date Type: gYear."},
         {[](CDateTime &v) { v.SetNanoSecond(1); }, "Failed to GetNanoSecond. Invalid Date Type: gYear."},
     };
@@ -177,13 +171,9 @@ TEST(DateTime, ConversionBetweenTypes)
         CDateTime::DTType wanted;
         const char *text;
     } allowed[] = {
-        {CDateTime::dt_dateTime, "2001-10-26T21:32:52.5+01:00"},
         {CDateTime::dt_date, "2001-10-26+01:00"},
         {CDateTime::dt_time, "21:32:52.5+01:00"},
-        {CDateTime::dt_gYearMonth, "2001-10+01:00"},
-        {CDateTime::dt_gYear, "2001+01:00"},
         {CDateTime::dt_gMonthDay, "--10-26+01:00"},
-        {CDateTime::dt_gMonth, "--10+01:00"},
         {CDateTime::dt_gDay, "---26+01:00"},
     };
     for (const auto &a : allowed) {
@@ -200,10 +190,6 @@ TEST(DateTime, ConversionBetweenTypes)
         [&] { target.SetDateTime(date, CDateTime::dt_time); },
         "Attempting to set a CDateTime of type time using an XmlDateTime of type date. The source CDateTime does "
         "not contian enough data to allow the conversion."));
-    EXPECT_TRUE(FailsWith<CVxInvalidValueException>(
-        [&] { target.SetDateTime(date, CDateTime::dt_dateTime); },
-        "Attempting to set a CDateTime of type dateTime using an XmlDateTime of type date. The source CDateTime "
-        "does not contian enough data to allow the conversion."));
     CDateTime yearMonth;
     yearMonth.SetDateTime(date, CDateTime::dt_gYearMonth);
     EXPECT_NO_THROW(target.SetDateTime(yearMonth, CDateTime::dt_gMonth));
