@@ -111,25 +111,15 @@ void CXmlDocument::ExpandCompressedInput()
 {
     // A UTF-16 file written compressed has its byte order mark in front of the
     // compressed bytes; the mark stays in front of the expansion.
-    const bool marked = m_dataLength >= 2 && m_data[0] == 0xFF && m_data[1] == 0xFE;
-    if (!marked) {
-        void *data = m_data;
-        CVxZip::Decompress(&data, &m_dataLength);
-        m_data = static_cast<unsigned char *>(data);
-        return;
-    }
+    const std::uint32_t mark = m_dataLength >= 2 && m_data[0] == 0xFF && m_data[1] == 0xFE ? 2 : 0;
     CBinaryData expanded;
-    if (!CVxZip::Decompress(m_data + 2, m_dataLength - 2, expanded))
+    if (!CVxZip::Decompress(m_data + mark, m_dataLength - mark, expanded))
         return;
-    const std::uint32_t length = 2 + expanded.GetLength();
-    std::unique_ptr<unsigned char[]> data(new unsigned char[length]);
-    data[0] = 0xFF;
-    data[1] = 0xFE;
+    AllocateData(mark + expanded.GetLength());
+    if (mark)
+        m_data[0] = 0xFF, m_data[1] = 0xFE;
     if (expanded.GetLength() != 0)
-        std::memcpy(data.get() + 2, expanded.GetData(), expanded.GetLength());
-    delete[] m_data;
-    m_data = data.release();
-    m_dataLength = length;
+        std::memcpy(m_data + mark, expanded.GetData(), expanded.GetLength());
 }
 
 void CXmlDocument::Parse()
