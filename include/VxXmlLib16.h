@@ -19,3 +19,6 @@
 #include "XmlWriter.h"
 #include "XmlTextWriter.h"
 #include "BinaryData.h"
+#include "WhitespaceUtils.h"
+#include "Conversions.h"
+#include "LocalText.h"

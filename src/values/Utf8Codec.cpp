@@ -1,0 +1,112 @@
+#include "values/Utf8Codec.h"
+
+#include <cstring>
+
+namespace VxXmlLib16::Utf8Codec {
+
+void Encode(char32_t cp, char *out)
+{
+    auto *o = reinterpret_cast<unsigned char *>(out);
+    if (cp < 0x80) {
+        o[0] = static_cast<unsigned char>(cp);
+    } else if (cp < 0x800) {
+        o[0] = static_cast<unsigned char>(0xC0 | (cp >> 6));
+        o[1] = static_cast<unsigned char>(0x80 | (cp & 0x3F));
+    } else if (cp < 0x10000) {
+        o[0] = static_cast<unsigned char>(0xE0 | (cp >> 12));
+        o[1] = static_cast<unsigned char>(0x80 | ((cp >> 6) & 0x3F));
+        o[2] = static_cast<unsigned char>(0x80 | (cp & 0x3F));
+    } else {
+        o[0] = static_cast<unsigned char>(0xF0 | (cp >> 18));
+        o[1] = static_cast<unsigned char>(0x80 | ((cp >> 12) & 0x3F));
+        o[2] = static_cast<unsigned char>(0x80 | ((cp >> 6) & 0x3F));
+        o[3] = static_cast<unsigned char>(0x80 | (cp & 0x3F));
+    }
+}
+
+std::size_t DecodeOne(const unsigned char *p, std::size_t n, char32_t &cp, bool &valid)
+{
+    const unsigned char lead = p[0];
+    if (lead < 0x80) {
+        cp = lead;
+        valid = true;
+        return 1;
+    }
+    // Trail count and the allowed range of the second byte, which excludes overlong
+    // forms, surrogates and values above U+10FFFF.
+    std::size_t trail;
+    unsigned char low = 0x80, high = 0xBF;
+    if (lead >= 0xC2 && lead <= 0xDF) {
+        trail = 1;
+        cp = lead & 0x1F;
+    } else if (lead >= 0xE0 && lead <= 0xEF) {
+        trail = 2;
+        cp = lead & 0x0F;
+        if (lead == 0xE0)
+            low = 0xA0;
+        else if (lead == 0xED)
+            high = 0x9F;
+    } else if (lead >= 0xF0 && lead <= 0xF4) {
+        trail = 3;
+        cp = lead & 0x07;
+        if (lead == 0xF0)
+            low = 0x90;
+        else if (lead == 0xF4)
+            high = 0x8F;
+    } else {
+        cp = kReplacement;
+        valid = false;
+        return 1;
+    }
+    std::size_t i = 1;
+    for (; i <= trail; ++i) {
+        if (i >= n || p[i] < low || p[i] > high) {
+            cp = kReplacement;
+            valid = false;
+            return i;
+        }
+        cp = (cp << 6) | (p[i] & 0x3F);
+        low = 0x80;
+        high = 0xBF;
+    }
+    valid = true;
+    return i;
+}
+
+std::size_t ScanUtf8(const char *p, std::size_t n, bool &valid)
+{
+    constexpr std::uint64_t kOnes = 0x0101010101010101ULL;
+    constexpr std::uint64_t kHighs = 0x8080808080808080ULL;
+    const auto *u = reinterpret_cast<const unsigned char *>(p);
+    valid = true;
+    std::size_t i = 0;
+    while (i < n) {
+        // Eight plain ASCII bytes with no NUL among them at a time.
+        while (i + 8 <= n) {
+            std::uint64_t word;
+            std::memcpy(&word, u + i, sizeof word);
+            if ((word & kHighs) != 0 || ((word - kOnes) & ~word & kHighs) != 0)
+                break;
+            i += 8;
+        }
+        if (i >= n)
+            break;
+        if (u[i] == 0)
+            return i;
+        if (u[i] < 0x80) {
+            ++i;
+            continue;
+        }
+        char32_t cp;
+        bool ok;
+        i += DecodeOne(u + i, n - i, cp, ok);
+        if (!ok) {
+            valid = false;
+            const void *nul = std::memchr(u + i, 0, n - i);
+            return nul ? static_cast<std::size_t>(static_cast<const unsigned char *>(nul) - u) : n;
+        }
+    }
+    return n;
+}
+
+} // namespace VxXmlLib16::Utf8Codec
