@@ -22,3 +22,6 @@
 #include "WhitespaceUtils.h"
 #include "Conversions.h"
 #include "LocalText.h"
+#include "SystemTime.h"
+#include "DateTime.h"
+#include "DateTimeSpan.h"

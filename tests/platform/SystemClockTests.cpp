@@ -1,0 +1,116 @@
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <ctime>
+#include <string>
+
+#include "DateTime.h"
+#include "platform/SystemClock.h"
+
+using VxXmlLib16::CDateTime;
+using VxXmlLib16::FILETIME;
+using VxXmlLib16::SYSTEMTIME;
+
+namespace {
+
+FILETIME Ticks(std::uint64_t ticks)
+{
+    return {static_cast<std::uint32_t>(ticks), static_cast<std::uint32_t>(ticks >> 32)};
+}
+
+// Runs the body with the process's zone set to the given one, then restores it.
+class ScopedZone final
+{
+public:
+    explicit ScopedZone(const char *zone)
+    {
+        if (const char *old = std::getenv("TZ")) {
+            m_old = old;
+            m_hadOld = true;
+        }
+        setenv("TZ", zone, 1);
+        tzset();
+    }
+    ~ScopedZone()
+    {
+        if (m_hadOld)
+            setenv("TZ", m_old.c_str(), 1);
+        else
+            unsetenv("TZ");
+        tzset();
+    }
+    ScopedZone(const ScopedZone &) = delete;
+    ScopedZone &operator=(const ScopedZone &) = delete;
+
+private:
+    std::string m_old;
+    bool m_hadOld = false;
+};
+
+} // namespace
+
+TEST(SystemClock, FileTimeTicksIntoCalendarFields)
+{
+    const struct
+    {
+        std::uint64_t ticks;
+        SYSTEMTIME expected;
+    } cases[] = {
+        {0, {1601, 1, 1, 1, 0, 0, 0, 0}},
+        {116444736000000000ULL, {1970, 1, 4, 1, 0, 0, 0, 0}},
+        {125963012967890000ULL, {2000, 2, 2, 29, 12, 34, 56, 789}},
+        {125963012967899999ULL, {2000, 2, 2, 29, 12, 34, 56, 789}},
+        {0x7FFFFFFFFFFFFFFFULL, {30828, 9, 4, 14, 2, 48, 5, 477}},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.ticks);
+        SYSTEMTIME time{};
+        ASSERT_TRUE(VxPlatform::FileTimeToSystemTime(Ticks(c.ticks), time));
+        EXPECT_EQ(c.expected.wYear, time.wYear);
+        EXPECT_EQ(c.expected.wMonth, time.wMonth);
+        EXPECT_EQ(c.expected.wDayOfWeek, time.wDayOfWeek);
+        EXPECT_EQ(c.expected.wDay, time.wDay);
+        EXPECT_EQ(c.expected.wHour, time.wHour);
+        EXPECT_EQ(c.expected.wMinute, time.wMinute);
+        EXPECT_EQ(c.expected.wSecond, time.wSecond);
+        EXPECT_EQ(c.expected.wMilliseconds, time.wMilliseconds);
+    }
+    SYSTEMTIME time{};
+    EXPECT_FALSE(VxPlatform::FileTimeToSystemTime(Ticks(0x8000000000000000ULL), time));
+}
+
+TEST(SystemClock, ValuesDoNotDependOnTheMachineZone)
+{
+    // Around the daylight-saving changes of New York and across historic offsets.
+    const char *const texts[] = {"2021-03-14T02:30:00", "2021-11-07T01:30:00", "2021-07-01T12:00:00",
+                                 "1942-09-01T00:00:00", "1883-11-18T12:00:00", "1500-06-15",
+                                 "2001-01-01T00:30:00+01:00", "-0044-03-15T12:00:00"};
+    long long utcTimes[std::size(texts)];
+    int utcDays[std::size(texts)];
+    {
+        ScopedZone zone("UTC");
+        for (std::size_t i = 0; i < std::size(texts); ++i) {
+            CDateTime value;
+            if (std::string(texts[i]).find('T') != std::string::npos)
+                value.ParseXSDDateTime(texts[i]);
+            else
+                value.ParseXSDDate(texts[i]);
+            utcTimes[i] = value.GetTime();
+            utcDays[i] = value.GetDayOfWeek();
+        }
+    }
+    for (const char *zoneName : {"America/New_York", "Asia/Kolkata", "Australia/Lord_Howe", "Pacific/Kiritimati"}) {
+        ScopedZone zone(zoneName);
+        for (std::size_t i = 0; i < std::size(texts); ++i) {
+            SCOPED_TRACE(std::string(zoneName) + " " + texts[i]);
+            CDateTime value;
+            if (std::string(texts[i]).find('T') != std::string::npos)
+                value.ParseXSDDateTime(texts[i]);
+            else
+                value.ParseXSDDate(texts[i]);
+            EXPECT_EQ(utcTimes[i], value.GetTime());
+            EXPECT_EQ(utcDays[i], value.GetDayOfWeek());
+            EXPECT_EQ(CDateTime(utcTimes[i]).ToString(), CDateTime(value.GetTime()).ToString());
+        }
+    }
+}

@@ -1,0 +1,232 @@
+#include <gtest/gtest.h>
+
+#include "DateTimeSpan.h"
+#include "DateTestSupport.h"
+
+using VxXmlLib16::CDateTime;
+using VxXmlLib16::CDateTimeSpan;
+using VxXmlLib16::CVxInvalidStateException;
+using VxXmlLib16::CVxInvalidValueException;
+using VxXmlLib16::FILETIME;
+using VxXmlLib16::SYSTEMTIME;
+using VxTest::FailsWith;
+
+namespace {
+
+// A dateTime, time or date-shaped text.
+CDateTime Value(const char *text)
+{
+    const std::string form(text);
+    CDateTime value;
+    if (form.find('T') != std::string::npos)
+        value.ParseXSDDateTime(text);
+    else if (form.size() > 2 && form[2] == ':')
+        value.ParseXSDTime(text);
+    else
+        value.ParseXSDDate(text);
+    return value;
+}
+
+CDateTimeSpan Span(const char *text)
+{
+    CDateTimeSpan span;
+    span.ParseXSDDuration(text);
+    return span;
+}
+
+} // namespace
+
+TEST(DateTimeArithmetic, AddingAndSubtractingSpans)
+{
+    const struct
+    {
+        const char *start;
+        char op;
+        const char *span;
+        const char *result;
+    } cases[] = {
+        {"2001-03-01", '-', "P1D", "2001-02-28"},
+        {"2000-03-01", '-', "P1D", "2000-02-29"},
+        {"2001-12-31", '+', "P1D", "2002-01-01"},
+        {"2001-01-01", '-', "P1D", "2000-12-31"},
+        {"2001-01-31", '+', "P1M", "2001-02-31"}, // the day is not clamped
+        {"2001-01-31", '-', "P2M", "2000-11-31"},
+        {"2001-01-01", '+', "P365D", "2002-01-01"},
+        {"2000-01-01", '+', "P366D", "2001-01-01"},
+        {"2001-01-01", '-', "P1000D", "1998-04-07"},
+        {"2001-03-31", '-', "-P1M", "2001-02-31"}, // a negative span still moves back
+        {"-0001-12-31", '+', "P1D", "0000-01-01"},  // year 0 is reached without complaint
+        {"2001-10-26T00:00:00", '+', "P1Y2M3DT4H5M6.5S", "2002-12-29T04:05:06.5"},
+        {"2001-01-31T23:59:59", '+', "PT1S", "2001-02-01T00:00:00"},
+        {"2001-01-01T00:00:00", '-', "PT0.000000001S", "2000-12-31T23:59:59.999999999"},
+        {"2001-01-01T00:00:00", '+', "PT90M", "2001-01-01T01:30:00"},
+        {"2001-01-01T00:00:00", '+', "PT48H", "2001-01-03T00:00:00"},
+        // Single-precision carries: beyond 2^24 the remainder leaves the unit.
+        {"2001-01-01T00:00:00", '+', "PT1000000000S", "2032-09-09T01:47:236"},
+        {"12:00:00", '+', "PT13H", "01:00:00"},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(std::string(c.start) + c.op + c.span);
+        const CDateTime start = Value(c.start);
+        const CDateTimeSpan span = Span(c.span);
+        CDateTime byAssignment = start;
+        if (c.op == '+')
+            byAssignment += span;
+        else
+            byAssignment -= span;
+        const CDateTime result = c.op == '+' ? start + span : start - span;
+        EXPECT_EQ(c.result, result.ToString());
+        EXPECT_EQ(c.result, byAssignment.ToString());
+    }
+}
+
+TEST(DateTimeArithmetic, DifferenceOfTwoValuesIsAZeroSpan)
+{
+    EXPECT_EQ("P", (Value("2001-01-01") - Value("1999-05-06")).ToString());
+}
+
+TEST(DateTimeArithmetic, Normalisation)
+{
+    EXPECT_EQ("2000-12-31T23:00:00+00:00", Value("2001-01-01T00:00:00+01:00").GetNormalized().ToString());
+    EXPECT_EQ("2001-01-01T17:30:00+00:00", Value("2001-01-01T12:00:00-05:30").GetNormalized().ToString());
+    // -00:30 keeps its sign in the zero hour, so it is lost: the value moves as for +00:30.
+    EXPECT_EQ("2001-01-01T11:30:00+00:00", Value("2001-01-01T12:00:00-00:30").GetNormalized().ToString());
+    EXPECT_EQ("2001-01-01T12:00:00Z", Value("2001-01-01T12:00:00Z").GetNormalized().ToString());
+    EXPECT_EQ("2001-01-01T12:00:00", Value("2001-01-01T12:00:00").GetNormalized().ToString());
+    EXPECT_EQ("2000-12-31+00:00", Value("2001-01-01+01:00").GetNormalized().ToString());
+}
+
+TEST(DateTimeArithmetic, Comparison)
+{
+    const struct
+    {
+        const char *left;
+        const char *right;
+        CDateTime::DTCompareResult result;
+    } cases[] = {
+        {"2001-01-01T12:00:00Z", "2001-01-01T13:00:00+01:00", CDateTime::dt_equal},
+        {"2001-01-01T12:00:00Z", "2001-01-01T12:00:00", CDateTime::dt_indeterminate},
+        {"2001-01-01T12:00:01Z", "2001-01-01T12:00:00", CDateTime::dt_greater},
+        {"2001-01-01T12:00:00", "2001-01-01T12:00:01Z", CDateTime::dt_less},
+        {"2001-01-01T00:00:00Z", "2001-01-01T14:00:01", CDateTime::dt_less},
+        {"2001-01-01T00:00:00Z", "2001-01-01T14:00:00", CDateTime::dt_indeterminate},
+        {"2001-01-01T14:00:01", "2001-01-01T00:00:00Z", CDateTime::dt_greater},
+        {"2001-01-01", "2001-01-01T05:00:00", CDateTime::dt_indeterminate},
+        {"2001-01-01", "2001-01-01T00:00:00", CDateTime::dt_less},
+        {"--05", "--05-01", CDateTime::dt_indeterminate},
+        {"--05", "--06", CDateTime::dt_less},
+        {"-0001", "0001", CDateTime::dt_indeterminate},
+        {"-0002", "-0001", CDateTime::dt_less},
+        {"2001-01-01T12:00:00.5", "2001-01-01T12:00:00.25", CDateTime::dt_greater},
+        {"2001-01-01T12:00:00.5", "2001-01-01T12:00:00.500", CDateTime::dt_equal},
+        {"2002-01-01", "2001-12-31", CDateTime::dt_greater},
+        {"2001-10", "2001-10-05", CDateTime::dt_indeterminate},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(std::string(c.left) + " " + c.right);
+        const CDateTime left = Value(c.left);
+        const CDateTime right = Value(c.right);
+        const CDateTime::DTCompareResult result = c.result;
+        EXPECT_EQ(result, left.CompareTo(right));
+        EXPECT_EQ(result == CDateTime::dt_equal, left == right);
+        EXPECT_EQ(result != CDateTime::dt_equal, left != right);
+        EXPECT_EQ(result == CDateTime::dt_less, left < right);
+        EXPECT_EQ(result == CDateTime::dt_greater, left > right);
+        EXPECT_EQ(result == CDateTime::dt_equal || result == CDateTime::dt_less, left <= right);
+        EXPECT_EQ(result == CDateTime::dt_equal || result == CDateTime::dt_greater, left >= right);
+    }
+}
+
+TEST(DateTimeArithmetic, SecondsSince1970)
+{
+    EXPECT_EQ(0, Value("1970-01-01T00:00:00").GetTime());
+    EXPECT_EQ(-86400, Value("1969-12-31").GetTime());
+    EXPECT_EQ(951782400, Value("2000-02-29").GetTime());
+    EXPECT_EQ(951782400, Value("2000-02-29Z").GetTime());
+    EXPECT_EQ(978303600, Value("2001-01-01T00:00:00+01:00").GetTime());
+    EXPECT_EQ(978307200 + 45296, Value("2001-01-01T12:34:56.999").GetTime()); // fractions dropped
+    EXPECT_EQ(-14817513600, Value("1500-06-15").GetTime());
+    EXPECT_EQ(253402300799, Value("9999-12-31T23:59:59").GetTime());
+    EXPECT_TRUE(FailsWith<CVxInvalidValueException>(
+        [] { Value("2001-01").GetTime(); },
+        "Failed to GetTime, Date Status must be dateTime or date. Invalid Date Type: gYearMonth."));
+
+    for (const long long seconds : {0LL, -1LL, 978307200LL, 1234567890LL, -14817513600LL, 253402300799LL}) {
+        const CDateTime fromSeconds(seconds);
+        EXPECT_EQ(CDateTime::dt_dateTime, fromSeconds.GetType());
+        EXPECT_EQ(seconds, fromSeconds.GetTime());
+    }
+    EXPECT_EQ("1969-12-31T23:59:59", CDateTime(-1LL).ToString());
+    EXPECT_EQ(CDateTime::dt_yearZero, CDateTime(253402300800LL).GetType());
+    CDateTime value;
+    // A year beyond the field is held at its limit rather than wrapped into range.
+    EXPECT_TRUE(FailsWith<CVxInvalidValueException>([&] { value = 10000000000000LL; },
+                                                    "Invalid Year [32767] (9999 <= year <= -9999 && year != 0)"));
+    EXPECT_TRUE(FailsWith<CVxInvalidValueException>([&] { value = 1LL << 62; }, "Invalid Time [4611686018427387904]"));
+}
+
+TEST(DateTimeArithmetic, DayOfWeekAndOfYear)
+{
+    EXPECT_EQ(2, Value("2001-01-01").GetDayOfWeek());          // Monday
+    EXPECT_EQ(3, Value("2000-02-29T23:59:59").GetDayOfWeek()); // Tuesday
+    EXPECT_EQ(1, Value("2001-01-01T00:30:00+01:00").GetDayOfWeek()); // normalised to a Sunday
+    EXPECT_EQ(6, Value("1500-06-15").GetDayOfWeek()); // Friday
+    EXPECT_TRUE(FailsWith<CVxInvalidStateException>([] { Value("2001").GetDayOfWeek(); },
+                                                    "Failed to GetDayOfWeek. Invalid Date Type: gYear."));
+
+    // The leap day counts only in January and February.
+    EXPECT_EQ(2, Value("2000-01-01").GetDayOfYear());
+    EXPECT_EQ(61, Value("2000-02-29").GetDayOfYear());
+    EXPECT_EQ(60, Value("2000-03-01").GetDayOfYear());
+    EXPECT_EQ(365, Value("2000-12-31").GetDayOfYear());
+    EXPECT_EQ(1, Value("2001-01-01T10:00:00").GetDayOfYear());
+    EXPECT_EQ(365, Value("2001-12-31").GetDayOfYear());
+    EXPECT_TRUE(FailsWith<CVxInvalidStateException>([] { Value("---05").GetDayOfYear(); },
+                                                    "Failed to GetDayOfYear. Invalid Date Type: gDay."));
+}
+
+TEST(DateTimeArithmetic, SystemTimeInterchange)
+{
+    const SYSTEMTIME time = Value("2001-01-01T10:20:30.456").GetAsSystemTime();
+    EXPECT_EQ(2001, time.wYear);
+    EXPECT_EQ(1, time.wMonth);
+    EXPECT_EQ(1, time.wDayOfWeek);
+    EXPECT_EQ(1, time.wDay);
+    EXPECT_EQ(10, time.wHour);
+    EXPECT_EQ(20, time.wMinute);
+    EXPECT_EQ(30, time.wSecond);
+    EXPECT_EQ(456, time.wMilliseconds);
+    EXPECT_EQ("2001-01-01T10:20:30.456", CDateTime(time).ToString());
+    EXPECT_TRUE(FailsWith<CVxInvalidValueException>(
+        [] { Value("2001-01-01").GetAsSystemTime(); },
+        "Failed to GetAsSystemTime, Date Status must be dateTime. Invalid Date Type: date."));
+
+    SYSTEMTIME bad = time;
+    bad.wMonth = 13;
+    EXPECT_EQ(CDateTime::dt_yearZero, CDateTime(bad).GetType());
+    bad.wMonth = 257; // does not wrap into range
+    EXPECT_EQ(CDateTime::dt_yearZero, CDateTime(bad).GetType());
+    CDateTime value;
+    EXPECT_TRUE(FailsWith<CVxInvalidValueException>([&] { value = bad; }, "Invalid Month [255] (1 <= month <= 12)"));
+    CDateTime date = Value("2001-01-01");
+    EXPECT_TRUE(FailsWith<CVxInvalidStateException>(
+        [&] { date = time; }, "Failed to copy CDateTime. Invalid Date Type: dateTime, expected: date."));
+
+    const std::uint64_t ticks1970 = 116444736000000000ULL;
+    const FILETIME epoch{static_cast<std::uint32_t>(ticks1970), static_cast<std::uint32_t>(ticks1970 >> 32)};
+    EXPECT_EQ("1970-01-01T00:00:00", CDateTime(epoch).ToString());
+    const FILETIME beyond63Bits{0, 0x80000000u};
+    EXPECT_EQ(CDateTime::dt_yearZero, CDateTime(beyond63Bits).GetType());
+    EXPECT_TRUE(FailsWith<CVxInvalidValueException>([&] { value = beyond63Bits; },
+                                                    "Failed to convert FILETIME to SYSTEMTIME"));
+    const FILETIME year30828{0xFFFFFFFFu, 0x7FFFFFFFu};
+    EXPECT_EQ(CDateTime::dt_yearZero, CDateTime(year30828).GetType());
+}
+
+TEST(DateTimeArithmetic, PresentLocalTime)
+{
+    const CDateTime now = CDateTime::GetTickCount();
+    EXPECT_EQ(CDateTime::dt_dateTime, now.GetType());
+    EXPECT_GE(now.GetYear(), 2024);
+    EXPECT_FALSE(now.IsUTC());
+}

@@ -1,0 +1,225 @@
+#include <gtest/gtest.h>
+
+#include "DateTime.h"
+#include "DateTestSupport.h"
+
+using VxXmlLib16::CDateTime;
+using VxXmlLib16::CVxInvalidStateException;
+using VxXmlLib16::CVxInvalidValueException;
+using VxTest::FailsWith;
+
+TEST(DateTime, UnsetValuesPrintTheNotSetText)
+{
+    EXPECT_EQ("Error: Date Not Set", CDateTime().ToString());
+    EXPECT_EQ("Error: Date Not Set", CDateTime(CDateTime::dt_date).ToString());
+    EXPECT_EQ("Error: Date Not Set", CDateTime(CDateTime::dt_date).ToString("G"));
+    EXPECT_EQ("00:00:00", CDateTime(CDateTime::dt_time).ToString());
+}
+
+TEST(DateTime, FormatsOtherThanSortable)
+{
+    const CDateTime value("2001-10-26T21:32:52");
+    EXPECT_EQ("", value.ToString("G"));
+    EXPECT_EQ("", value.ToString(nullptr));
+    EXPECT_EQ("Unknown Format: x", value.ToString("x"));
+    EXPECT_EQ(value.ToString("s"), value.ToString());
+}
+
+TEST(DateTime, FieldConstructorsClearOnInvalidValues)
+{
+    const CDateTime bad(2001, 2, 30);
+    EXPECT_EQ(CDateTime::dt_yearZero, bad.GetType());
+    EXPECT_EQ(CDateTime::dt_yearZero, CDateTime(2001, 1, 1, 24, 0, 0).GetType());
+    EXPECT_EQ(CDateTime::dt_yearZero, CDateTime(2001, 1, 1, 0, 0, 0, 0, 1000, 0).GetType());
+
+    EXPECT_EQ("2001-02-28", CDateTime(2001, 2, 28).ToString());
+    EXPECT_EQ("2001-02-28T01:02:03", CDateTime(2001, 2, 28, 1, 2, 3).ToString());
+    EXPECT_EQ("2001-02-28T01:02:03.004005006", CDateTime(2001, 2, 28, 1, 2, 3, 4, 5, 6).ToString());
+}
+
+TEST(DateTime, WholeValueSetters)
+{
+    struct Case
+    {
+        void (*set)(CDateTime &);
+        CDateTime::DTType type;
+        const char *text;
+    };
+    const Case cases[] = {
+        {[](CDateTime &v) { v.SetDate(10, 3, 4); }, CDateTime::dt_date, "0010-03-04"},
+        {[](CDateTime &v) { v.SetTime(1, 2, 3); }, CDateTime::dt_time, "01:02:03"},
+        {[](CDateTime &v) { v.SetTime(1, 2, 3, 0, 500, 0); }, CDateTime::dt_time, "01:02:03.0005"},
+        {[](CDateTime &v) { v.SetFracTime(5, 0, 0); }, CDateTime::dt_time, "00:00:00.005"},
+        {[](CDateTime &v) { v.SetGYear(-44); }, CDateTime::dt_gYear, "-0044"},
+        {[](CDateTime &v) { v.SetGYearMonth(2001, 12); }, CDateTime::dt_gYearMonth, "2001-12"},
+        {[](CDateTime &v) { v.SetGMonth(7); }, CDateTime::dt_gMonth, "--07"},
+        {[](CDateTime &v) { v.SetGMonthDay(2, 29); }, CDateTime::dt_gMonthDay, "--02-29"},
+        {[](CDateTime &v) { v.SetGDay(1); }, CDateTime::dt_gDay, "---01"},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.text);
+        CDateTime value;
+        c.set(value);
+        EXPECT_EQ(c.type, value.GetType());
+        EXPECT_EQ(c.text, value.ToString());
+        // The same type may be set again; the zone is dropped on the way.
+        value.SetUTC();
+        c.set(value);
+        EXPECT_FALSE(value.IsUTC());
+    }
+}
+
+TEST(DateTime, SettersRefuseAnotherTypeAndInvalidFields)
+{
+    CDateTime time(CDateTime::dt_time);
+    EXPECT_TRUE(FailsWith<CVxInvalidStateException>(
+        [&] { time.SetDate(2001, 1, 1); }, "Failed to copy CDateTime. Invalid Date Type: date, expected: time."));
+
+    CDateTime value;
+    EXPECT_TRUE(FailsWith<CVxInvalidValueException>([&] { value.SetGYear(10000); },
+                                                    "Invalid Year [10000] (9999 <= year <= -9999 && year != 0)"));
+    EXPECT_TRUE(FailsWith<CVxInvalidValueException>([&] { CDateTime().SetGYear(0); },
+                                                    "Invalid Year [0] (9999 <= year <= -9999 && year != 0)"));
+    const struct
+    {
+        unsigned char hour, minute, second;
+        unsigned short milli, micro, nano;
+        const char *message;
+    } times[] = {
+        {24, 0, 0, 0, 0, 0, "Invalid Hour [24] (0 <= hour <= 23)"},
+        {0, 60, 0, 0, 0, 0, "Invalid Minute [60] (0 <= minute <= 59)"},
+        {0, 0, 60, 0, 0, 0, "Invalid Second [60] (0 <= second <= 59)"},
+        {0, 0, 0, 1000, 0, 0, "Invalid Milli-Second [1000] (0 <= milli <= 999)"},
+        {0, 0, 0, 0, 1000, 0, "Invalid Micro-Second [1000] (0 <= micro <= 999)"},
+        {0, 0, 0, 0, 0, 1000, "Invalid Nano-Second [1000] (0 <= nano <= 999)"},
+    };
+    for (const auto &t : times)
+        EXPECT_TRUE(FailsWith<CVxInvalidValueException>(
+            [&] { CDateTime().SetTime(t.hour, t.minute, t.second, t.milli, t.micro, t.nano); }, t.message));
+    EXPECT_TRUE(FailsWith<CVxInvalidValueException>([] { CDateTime().SetGMonthDay(2, 30); },
+                                                    "Invalid Day [30] (1 <= day <= days in month)"));
+    EXPECT_TRUE(FailsWith<CVxInvalidValueException>([] { CDateTime().SetGDay(0); }, "Invalid Day [0] (1 <= day <= 31)"));
+}
+
+TEST(DateTime, FieldAccessorsFollowTheType)
+{
+    CDateTime year;
+    year.SetGYear(2001);
+    EXPECT_EQ(2001, year.GetYear());
+    const struct
+    {
+        void (*call)(CDateTime &);
+        const char *message;
+    } refused[] = {
+        {[](CDateTime &v) { v.GetMonth(); }, "Failed to GetMonth. Invalid Date Type: gYear."},
+        {[](CDateTime &v) { v.SetMonth(1); }, "Failed to GetMonth. Invalid Date Type: gYear."},
+        {[](CDateTime &v) { v.GetDay(); }, "Failed to GetDay. Invalid Date Type: gYear."},
+        {[](CDateTime &v) { v.SetDay(1); }, "Failed to GetDay. Invalid Date Type: gYear."},
+        {[](CDateTime &v) { v.GetHour(); }, "Failed to GetHour. Invalid Date Type: gYear."},
+        {[](CDateTime &v) { v.SetHour(1); }, "Failed to GetHour. Invalid Date Type: gYear."},
+        {[](CDateTime &v) { v.GetMinute(); }, "Failed to GetMinute. Invalid Date Type: gYear."},
+        {[](CDateTime &v) { v.SetMinute(1); }, "Failed to GetMinute. Invalid Date Type: gYear."},
+        {[](CDateTime &v) { v.GetSecond(); }, "Failed to GetSecond. Invalid Date Type: gYear."},
+        {[](CDateTime &v) { v.SetSecond(1); }, "Failed to GetSecond. Invalid Date Type: gYear."},
+        {[](CDateTime &v) { v.GetRealSecond(); }, "Failed to GetRealSecond. Invalid Date Type: gYear."},
+        {[](CDateTime &v) { v.GetMilliSecond(); }, "Failed to GetMilliSecond. Invalid Date Type: gYear."},
+        {[](CDateTime &v) { v.SetMilliSecond(1); }, "Failed to GetMilliSecond. Invalid Date Type: gYear."},
+        {[](CDateTime &v) { v.GetMicroSecond(); }, "Failed to GetMicroSecond. Invalid Date Type: gYear."},
+        {[](CDateTime &v) { v.SetMicroSecond(1); }, "Failed to GetMicroSecond. Invalid Date Type: gYear."},
+        {[](CDateTime &v) { v.GetNanoSecond(); }, "Failed to GetNanoSecond. Invalid Date Type: gYear."},
+        {[](CDateTime &v) { v.SetNanoSecond(1); }, "Failed to GetNanoSecond. Invalid Date Type: gYear."},
+    };
+    for (const auto &r : refused)
+        EXPECT_TRUE(FailsWith<CVxInvalidStateException>([&] { r.call(year); }, r.message));
+
+    CDateTime day;
+    day.SetGDay(5);
+    EXPECT_TRUE(FailsWith<CVxInvalidStateException>([&] { day.GetYear(); }, "Failed to GetYear. Invalid Date Type: gDay."));
+    EXPECT_TRUE(FailsWith<CVxInvalidStateException>([&] { day.SetYear(1); }, "Failed to GetYear. Invalid Date Type: gDay."));
+
+    // Field setters check no range.
+    CDateTime time("2001-01-01T12:00:01");
+    time.SetMilliSecond(500);
+    time.SetMicroSecond(250);
+    EXPECT_DOUBLE_EQ(1.50025, time.GetRealSecond());
+    time.SetMonth(14);
+    EXPECT_EQ("2001-14-01T12:00:01.50025", time.ToString());
+}
+
+TEST(DateTime, ZoneSettersAndAccessors)
+{
+    CDateTime value("2001-01-01T00:00:00");
+    EXPECT_TRUE(FailsWith<CVxInvalidStateException>([&] { value.GetZoneHour(); }, "TimeZone is not been used"));
+    value.SetUTC();
+    EXPECT_TRUE(value.IsUTC());
+    EXPECT_FALSE(value.HasTimeZone());
+    EXPECT_TRUE(FailsWith<CVxInvalidStateException>([&] { value.GetZoneMinute(); }, "TimeZone is not been used"));
+    EXPECT_EQ("2001-01-01T00:00:00Z", value.ToString());
+
+    value.SetTimeZone(0, 0);
+    EXPECT_EQ("2001-01-01T00:00:00+00:00", value.ToString());
+    value.SetTimeZone(-23, 59);
+    EXPECT_EQ(-23, value.GetZoneHour());
+    EXPECT_EQ(59, value.GetZoneMinute());
+    EXPECT_EQ("2001-01-01T00:00:00-23:59", value.ToString());
+
+    EXPECT_TRUE(FailsWith<CVxInvalidValueException>([&] { value.SetTimeZone(24, 0); }, "Invalid TimeZone [24:0]"));
+    EXPECT_TRUE(FailsWith<CVxInvalidValueException>([&] { value.SetTimeZone(-24, 0); }, "Invalid TimeZone [-24:0]"));
+    EXPECT_TRUE(FailsWith<CVxInvalidValueException>([&] { value.SetTimeZone(1, 60); }, "Invalid TimeZone [1:60]"));
+    EXPECT_EQ(-23, value.GetZoneHour()); // a refused zone leaves the old one
+}
+
+TEST(DateTime, ConversionBetweenTypes)
+{
+    const CDateTime source("2001-10-26T21:32:52.5+01:00");
+    const struct
+    {
+        CDateTime::DTType wanted;
+        const char *text;
+    } allowed[] = {
+        {CDateTime::dt_dateTime, "2001-10-26T21:32:52.5+01:00"},
+        {CDateTime::dt_date, "2001-10-26+01:00"},
+        {CDateTime::dt_time, "21:32:52.5+01:00"},
+        {CDateTime::dt_gYearMonth, "2001-10+01:00"},
+        {CDateTime::dt_gYear, "2001+01:00"},
+        {CDateTime::dt_gMonthDay, "--10-26+01:00"},
+        {CDateTime::dt_gMonth, "--10+01:00"},
+        {CDateTime::dt_gDay, "---26+01:00"},
+    };
+    for (const auto &a : allowed) {
+        CDateTime target;
+        target.SetDateTime(source, a.wanted);
+        EXPECT_EQ(a.wanted, target.GetType());
+        EXPECT_EQ(a.text, target.ToString());
+    }
+
+    CDateTime date;
+    date.SetDateTime(source, CDateTime::dt_date);
+    CDateTime target;
+    EXPECT_TRUE(FailsWith<CVxInvalidValueException>(
+        [&] { target.SetDateTime(date, CDateTime::dt_time); },
+        "Attempting to set a CDateTime of type time using an XmlDateTime of type date. The source CDateTime does "
+        "not contian enough data to allow the conversion."));
+    EXPECT_TRUE(FailsWith<CVxInvalidValueException>(
+        [&] { target.SetDateTime(date, CDateTime::dt_dateTime); },
+        "Attempting to set a CDateTime of type dateTime using an XmlDateTime of type date. The source CDateTime "
+        "does not contian enough data to allow the conversion."));
+    CDateTime yearMonth;
+    yearMonth.SetDateTime(date, CDateTime::dt_gYearMonth);
+    EXPECT_NO_THROW(target.SetDateTime(yearMonth, CDateTime::dt_gMonth));
+    EXPECT_ANY_THROW(target.SetDateTime(yearMonth, CDateTime::dt_gDay));
+    EXPECT_NO_THROW(target.SetDateTime(date, CDateTime::dt_yearZero));
+    EXPECT_EQ(CDateTime::dt_yearZero, target.GetType());
+    EXPECT_TRUE(FailsWith<CVxInvalidValueException>(
+        [&] { target.SetDateTime(source, static_cast<CDateTime::DTType>(42)); }, "Unknown date type 42."));
+}
+
+TEST(DateTime, TypeNames)
+{
+    const char *const names[] = {"yearZero", "dateTime", "date", "gYearMonth", "gYear",
+                                 "time",     "gDay",     "gMonth", "gMonthDay"};
+    for (int type = 0; type <= 8; ++type)
+        EXPECT_EQ(names[type], CDateTime(static_cast<CDateTime::DTType>(type)).GetTypeAsString());
+    EXPECT_EQ("", CDateTime(static_cast<CDateTime::DTType>(9)).GetTypeAsString());
+    EXPECT_EQ("", CDateTime(static_cast<CDateTime::DTType>(-1)).GetTypeAsString());
+}
