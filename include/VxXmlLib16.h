@@ -25,3 +25,5 @@
 #include "SystemTime.h"
 #include "DateTime.h"
 #include "DateTimeSpan.h"
+#include "BigInteger.h"
+#include "Decimal.h"

@@ -1,0 +1,257 @@
+#include "BigInteger.h"
+#include "Decimal.h"
+#include "NumberTestSupport.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <random>
+#include <string>
+
+using VxXmlLib16::CBigInteger;
+using VxXmlLib16::CVxInvalidValueException;
+using VxXmlLib16::CVxOverFlowException;
+using VxTest::ExpectFailure;
+
+namespace {
+
+bool IsNegativeZero(const CBigInteger &value) { return value == CBigInteger(0) && value < CBigInteger(0); }
+
+TEST(BigIntegerParse, ReadsBackwardsFromTheEnd)
+{
+    struct Case {
+        const char *text;
+        const char *expected;
+    };
+    const Case cases[] = {
+        {"12345678901234567890123", "12345678901234567890123"},
+        {"-42", "-42"},
+        {"  -7  ", "-7"},
+        {"+5", "5"},
+        {"12-34", "34"},
+        {"1 2", "2"},
+        {"\t-5", "5"}, // only blanks are trimmed, so the minus is not first
+        {"007", "7"},
+        {"", "0"},
+        {"   ", "0"},
+        {"1.5", "1"}, // the decimal route rounds halves toward zero
+        {"1.6", "2"},
+        {"-1.6", "-2"},
+        {"1e3", "1000"},
+    };
+    for (const Case &c : cases)
+        EXPECT_EQ(CBigInteger(c.text).ToString(), c.expected) << '"' << c.text << '"';
+}
+
+TEST(BigIntegerParse, OddTextsKeepTheirShape)
+{
+    const CBigInteger minusZero("-0");
+    EXPECT_EQ(minusZero.ToString(), "0");
+    EXPECT_TRUE(IsNegativeZero(minusZero));
+
+    // No digits at all: prints as 0 but is not equal to the one-digit 0.
+    const CBigInteger trailingSign("5-");
+    EXPECT_EQ(trailingSign.ToString(), "0");
+    EXPECT_NE(trailingSign, CBigInteger(0));
+    EXPECT_EQ(CBigInteger("-").ToString(), "0");
+    EXPECT_TRUE(CBigInteger("-") < CBigInteger(0));
+    EXPECT_EQ(static_cast<int>(trailingSign), 0);
+    EXPECT_EQ((trailingSign + CBigInteger(3)).ToString(), "3");
+    ExpectFailure<CVxInvalidValueException>([&] { (void)(CBigInteger(3) / trailingSign); },
+                                            "ERROR: Overflow in operator/.");
+
+    ExpectFailure<CVxInvalidValueException>(
+        [] { CBigInteger("abc"); },
+        "The string representing a Decimal, contained an invalid char at position 0 [abc].");
+}
+
+TEST(BigIntegerConstruct, FromMachineNumbers)
+{
+    EXPECT_EQ(CBigInteger(std::numeric_limits<std::int32_t>::min()).ToString(), "-2147483648");
+    EXPECT_EQ(CBigInteger(std::numeric_limits<std::uint32_t>::max()).ToString(), "4294967295");
+    EXPECT_EQ(CBigInteger(std::numeric_limits<long long>::min()).ToString(), "-9223372036854775808");
+    EXPECT_EQ(CBigInteger(std::numeric_limits<unsigned long long>::max()).ToString(), "18446744073709551615");
+    EXPECT_EQ(CBigInteger(std::int64_t{-12}).ToString(), "-12");
+
+    EXPECT_EQ(CBigInteger(2.5).ToString(), "2");
+    EXPECT_EQ(CBigInteger(-2.5).ToString(), "-2");
+    EXPECT_EQ(CBigInteger(2.6).ToString(), "3");
+    EXPECT_EQ(CBigInteger(0.4).ToString(), "0");
+    EXPECT_EQ(CBigInteger(1e20).ToString(), "100000000000000000000");
+    EXPECT_EQ(CBigInteger(std::nan("")).ToString(), "0");
+    ExpectFailure<CVxOverFlowException>([] { CBigInteger(-HUGE_VAL); },
+                                        "ERROR: Infinite value out of bound of BigInteger.");
+}
+
+TEST(BigIntegerConstruct, Constants)
+{
+    EXPECT_EQ(CBigInteger::MAX_LONG.ToString(), "2147483647");
+    EXPECT_EQ(CBigInteger::MIN_LONG.ToString(), "-2147483648");
+    EXPECT_EQ(CBigInteger::MAX_LONGLONG.ToString(), "9223372036854775807");
+    EXPECT_EQ(CBigInteger::MIN_LONGLONG.ToString(), "-9223372036854775808");
+    EXPECT_EQ(CBigInteger::MAX_DOUBLE.ToString(), "17" + std::string(307, '0'));
+    EXPECT_EQ(CBigInteger::MIN_DOUBLE.ToString(), "-17" + std::string(307, '0'));
+    EXPECT_EQ(CBigInteger::Pow10(0).ToString(), "1");
+    EXPECT_EQ(CBigInteger::Pow10(25).ToString(), "1" + std::string(25, '0'));
+}
+
+TEST(BigIntegerArithmetic, AgreesWithMachineIntegers)
+{
+    std::mt19937_64 random(7);
+    std::uniform_int_distribution<long long> distribution(-3037000499LL, 3037000499LL);
+    for (int i = 0; i < 2000; ++i) {
+        long long a = distribution(random);
+        long long b = distribution(random);
+        if (i % 4 == 0)
+            b %= 1000; // short divisors give long quotients
+        const CBigInteger x(a);
+        const CBigInteger y(b);
+        EXPECT_EQ((x + y).ToString(), std::to_string(a + b));
+        EXPECT_EQ((x - y).ToString(), std::to_string(a - b));
+        EXPECT_EQ((x * y).ToString(), std::to_string(a * b));
+        if (b != 0) {
+            EXPECT_EQ((x / y).ToString(), std::to_string(a / b)) << a << " / " << b;
+        }
+        if (b > 0) {
+            EXPECT_EQ((x % y).ToString(), std::to_string(a % b)) << a << " % " << b;
+        }
+    }
+    CBigInteger z("99999999999999999999");
+    z += z;
+    EXPECT_EQ(z.ToString(), "199999999999999999998");
+    z -= z;
+    EXPECT_EQ(z.ToString(), "0");
+    EXPECT_FALSE(IsNegativeZero(CBigInteger(-5) + CBigInteger(5)));
+    EXPECT_TRUE(IsNegativeZero(CBigInteger(-5) * CBigInteger(0)));
+    EXPECT_EQ((CBigInteger("123456789012345678901234567890") * CBigInteger("987654321098765432109876543210")).ToString(),
+              "121932631137021795226185032733622923332237463801111263526900");
+}
+
+// Each operator checks its divisor in its own way and with its own message.
+TEST(BigIntegerArithmetic, DivisionAndRemainderSigns)
+{
+    struct Case {
+        int a, b;
+        const char *quotient;       // a / b, or the message it raises
+        const char *remainder;      // a % b, or the message
+        const char *divideAssign;   // a /= b
+        const char *remainderAssign; // a %= b
+    };
+    const char *const overflowDivide = "ERROR: Overflow in operator/.";
+    const char *const overflowRemainder = "ERROR: Overflow in operator%.";
+    const char *const overflowDivideAssign = "ERROR: Overflow in operator /=.";
+    const char *const overflowRemainderAssign = "ERROR: Overflow in operator%=.";
+    const Case cases[] = {
+        {7, 2, "3", "1", "3", "1"},
+        {-7, 2, "-3", "-1", "-3", "-1"},
+        {7, -2, "-3", overflowRemainder, overflowDivideAssign, overflowRemainderAssign},
+        {-7, -2, "3", overflowRemainder, overflowDivideAssign, overflowRemainderAssign},
+        {6, 3, "2", "0", "2", "0"},
+        {0, 5, "0", "0", "0", "0"},
+        {0, 0, overflowDivide, "0", overflowDivide, "0"},
+        {7, 0, overflowDivide, overflowRemainder, overflowDivide, overflowRemainder},
+    };
+    const auto check = [](const char *expected, auto operation) {
+        if (expected[0] == 'E')
+            ExpectFailure<CVxInvalidValueException>(operation, expected);
+        else
+            EXPECT_EQ(operation().ToString(), expected);
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(std::to_string(c.a) + " op " + std::to_string(c.b));
+        const CBigInteger a(c.a);
+        const CBigInteger b(c.b);
+        check(c.quotient, [&] { return a / b; });
+        check(c.remainder, [&] { return a % b; });
+        check(c.divideAssign, [&] { return CBigInteger(a) /= b; });
+        check(c.remainderAssign, [&] { return CBigInteger(a) %= b; });
+    }
+    // A zero quotient of a negative operand stays negative; so does a zero remainder.
+    EXPECT_TRUE(IsNegativeZero(CBigInteger(-1) / CBigInteger(3)));
+    EXPECT_TRUE(IsNegativeZero(CBigInteger(-6) % CBigInteger(3)));
+    // A negative zero is a divisor below 0, and that check comes before the zero dividend.
+    ExpectFailure<CVxInvalidValueException>([] { (void)(CBigInteger(0) % CBigInteger("-0")); }, overflowRemainder);
+}
+
+TEST(BigIntegerCompare, NegativeZeroIsEqualButSmaller)
+{
+    const CBigInteger zero(0);
+    const CBigInteger minusZero("-0");
+    EXPECT_TRUE(minusZero == zero);
+    EXPECT_TRUE(minusZero < zero);
+    EXPECT_TRUE(zero > minusZero);
+    EXPECT_TRUE(minusZero <= zero);
+    EXPECT_FALSE(zero <= minusZero);
+    EXPECT_TRUE(CBigInteger(-10) < CBigInteger(-9));
+    EXPECT_TRUE(CBigInteger(-10) < CBigInteger(9));
+    EXPECT_TRUE(CBigInteger(100) > CBigInteger(99));
+    EXPECT_TRUE(CBigInteger(5) >= CBigInteger(5));
+    EXPECT_TRUE(CBigInteger(5) != CBigInteger(-5));
+}
+
+TEST(BigIntegerSign, UnaryMinusMutates)
+{
+    CBigInteger x(5);
+    const CBigInteger y = -x;
+    EXPECT_EQ(x.ToString(), "-5");
+    EXPECT_EQ(y.ToString(), "-5");
+    EXPECT_EQ(x.GetNegative().ToString(), "5");
+    EXPECT_EQ(x.GetAbs().ToString(), "5");
+    EXPECT_EQ(x.ToString(), "-5");
+    x.Abs();
+    EXPECT_EQ(x.ToString(), "5");
+    x.Negate();
+    EXPECT_EQ(x.ToString(), "-5");
+}
+
+TEST(BigIntegerNarrowing, IntIsCheckedAndExact)
+{
+    EXPECT_EQ(static_cast<int>(CBigInteger::MIN_LONG), std::numeric_limits<int>::min());
+    EXPECT_EQ(static_cast<int>(CBigInteger::MAX_LONG), std::numeric_limits<int>::max());
+    EXPECT_EQ(static_cast<int>(CBigInteger("-0")), 0);
+    EXPECT_EQ(static_cast<int>(CBigInteger(-123456)), -123456);
+    ExpectFailure<CVxInvalidValueException>([] { (void)static_cast<int>(CBigInteger("2147483648")); },
+                                            "ERROR: Value out of bound of int.");
+    ExpectFailure<CVxInvalidValueException>([] { (void)static_cast<int>(CBigInteger("-2147483649")); },
+                                            "ERROR: Value out of bound of int.");
+}
+
+TEST(BigIntegerNarrowing, LongLongWrapsItsMultiplier)
+{
+    struct Case {
+        const char *text;
+        long long expected;
+    };
+    const Case cases[] = {
+        {"4294967295", 4294967295LL},
+        {"-4294967295", -4294967295LL},
+        {"5000000000", 705032704LL},
+        {"12345678901", 3755744309LL},
+        {"9223372036854775807", 25769803775LL},
+        {"-5000000000", -705032704LL},
+    };
+    for (const Case &c : cases)
+        EXPECT_EQ(static_cast<long long>(CBigInteger(c.text)), c.expected) << c.text;
+    ExpectFailure<CVxInvalidValueException>(
+        [] { (void)static_cast<long long>(CBigInteger("9223372036854775808")); },
+        "ERROR: Value out of bound of LONGLONG.");
+    ExpectFailure<CVxInvalidValueException>(
+        [] { (void)static_cast<long long>(CBigInteger("-9223372036854775809")); },
+        "ERROR: Value out of bound of LONGLONG.");
+}
+
+TEST(BigIntegerSquareRoot, FloorOfTheRoot)
+{
+    EXPECT_EQ(CBigInteger(1).SquareRoot().ToString(), "1");
+    EXPECT_EQ(CBigInteger(99).SquareRoot().ToString(), "9");
+    EXPECT_EQ(CBigInteger(100).SquareRoot().ToString(), "10");
+    const CBigInteger root("31622776601683793319988935");
+    EXPECT_EQ((root * root).SquareRoot().ToString(), root.ToString());
+    EXPECT_EQ((root * root - CBigInteger(1)).SquareRoot().ToString(), (root - CBigInteger(1)).ToString());
+    ExpectFailure<CVxInvalidValueException>([] { CBigInteger(0).SquareRoot(); }, "ERROR: Overflow in operator/.");
+    ExpectFailure<CVxInvalidValueException>([] { CBigInteger(-4).SquareRoot(); },
+                                            "ERROR: Negative Number in function SquareRoot().");
+}
+
+} // namespace
