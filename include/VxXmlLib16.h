@@ -27,3 +27,4 @@
 #include "DateTimeSpan.h"
 #include "BigInteger.h"
 #include "Decimal.h"
+#include "Variant.h"
