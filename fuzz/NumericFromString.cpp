@@ -8,8 +8,7 @@
 #include <cstring>
 #include <string>
 
-#include "Conversions.h"
-#include "Exceptions.h"
+#include "FuzzInput.h"
 
 using namespace VxXmlLib16;
 
@@ -27,7 +26,7 @@ void RoundTrip(const std::string &text, Rule rule, Read read, Print print)
 
 // Without a rule and without NUL bytes the text goes to the C library unchanged.
 template <class T, class Read, class Reference>
-void AgreesWithCLibrary(const std::string &text, Read read, Reference reference)
+void AgreesWithCLibrary(const std::string &text, const char *type, Read read, Reference reference)
 {
     if (text.empty() || std::memchr(text.data(), 0, text.size()))
         return;
@@ -41,8 +40,9 @@ void AgreesWithCLibrary(const std::string &text, Read read, Reference reference)
         if (rangeError || !complete || value != expected)
             std::abort();
     } catch (const CVxInvalidValueException &e) {
-        const bool saysRange = e.GetMessage().find("is to large to fit") != std::string::npos;
-        if (saysRange != rangeError || (!rangeError && complete))
+        const std::string expectedMessage = "The value [" + text +
+                                            (rangeError ? "] is to large to fit in a " : "] can not be converted to a ") + type;
+        if (e.GetMessage() != expectedMessage || (!rangeError && complete))
             std::abort();
     }
 }
@@ -51,12 +51,9 @@ void AgreesWithCLibrary(const std::string &text, Read read, Reference reference)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    if (size == 0)
-        return 0;
-    const auto rule = static_cast<Rule>((data[0] >> 4) % 4);
-    const std::string text(reinterpret_cast<const char *>(data + 1), size - 1);
-    try {
-        switch (data[0] % 12) {
+    return RunOnText(data, size, [](std::uint8_t selector, const std::string &text) {
+        const Rule rule = RuleOf(selector, 4);
+        switch (selector % 12) {
         case 0:
             RoundTrip<char>(text, rule, CConversions::i1FromString, CConversions::i1ToString);
             break;
@@ -92,11 +89,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
             CConversions::charFromString(text, rule);
             break;
         default:
-            AgreesWithCLibrary<long long>(text, CConversions::i8FromString, std::strtoll);
-            AgreesWithCLibrary<unsigned long long>(text, CConversions::ui8FromString, std::strtoull);
+            AgreesWithCLibrary<long long>(text, "i8", CConversions::i8FromString, std::strtoll);
+            AgreesWithCLibrary<unsigned long long>(text, "ui8", CConversions::ui8FromString, std::strtoull);
             break;
         }
-    } catch (const CVxException &) {
-    }
-    return 0;
+    });
 }

@@ -7,6 +7,7 @@
 #include <strings.h>
 
 #include "BinaryData.h"
+#include "DateTime.h"
 #include "Exceptions.h"
 
 namespace VxXmlLib16 {
@@ -24,6 +25,15 @@ std::string SmallFormat(const char *format, Args... args)
     char buffer[16];
     const int length = std::snprintf(buffer, sizeof buffer, format, args...);
     return std::string(buffer, static_cast<std::size_t>(length));
+}
+
+// The partial dates held as plain integers read through the date type of their form,
+// which checks the text and the range.
+CDateTime ReadPartialDate(CDateTime::DTType type, const std::string &text, CWhitespaceUtils::WhitespaceRule rule)
+{
+    CDateTime value(type);
+    value.ParseXSDDate(CWhitespaceUtils::ApplyRule(rule, text).c_str());
+    return value;
 }
 
 } // namespace
@@ -76,6 +86,21 @@ char CConversions::charFromString(const std::string &text, WhitespaceRule rule)
         throw CVxInvalidValueException(FormatString(
             "The value [%s] can not be a char as it is either empty of greater than 1 char long", value.c_str()));
     return value[0];
+}
+
+std::uint16_t CConversions::yearFromString(const std::string &text, WhitespaceRule rule)
+{
+    return static_cast<std::uint16_t>(ReadPartialDate(CDateTime::dt_gYear, text, rule).GetYear());
+}
+
+unsigned char CConversions::dayFromString(const std::string &text, WhitespaceRule rule)
+{
+    return ReadPartialDate(CDateTime::dt_gDay, text, rule).GetDay();
+}
+
+unsigned char CConversions::monthFromString(const std::string &text, WhitespaceRule rule)
+{
+    return ReadPartialDate(CDateTime::dt_gMonth, text, rule).GetMonth();
 }
 
 CBinaryData CConversions::base64BinaryFromString(const std::string &text, WhitespaceRule rule)

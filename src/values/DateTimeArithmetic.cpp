@@ -229,6 +229,13 @@ void CDateTime::AddDateTimeSpan(const CDateTimeSpan &span)
             if (days == 0)
                 break;
         }
+        // Above December (a month field out of its range) the months climb forever at 31
+        // days each and the year stays; take all those steps at once.
+        if (days >= 31 && month >= 14 && day == 1) {
+            month += days / 31;
+            days %= 31;
+            continue;
+        }
         if (days < 0) {
             if (day - 1 < -days) {
                 days += day;

@@ -2,6 +2,10 @@
 
 #include <cstring>
 
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
 namespace VxXmlLib16::Utf8Codec {
 
 void Encode(char32_t cp, char *out)
@@ -73,28 +77,53 @@ std::size_t DecodeOne(const unsigned char *p, std::size_t n, char32_t &cp, bool 
     return i;
 }
 
-std::size_t ScanUtf8(const char *p, std::size_t n, bool &valid)
+namespace {
+
+// The length of the leading run of bytes that are ASCII and not NUL, looked at sixteen
+// bytes at a time; it may stop short of the run's end by less than sixteen bytes.
+std::size_t PlainAsciiRun(const unsigned char *p, std::size_t n)
 {
+    std::size_t i = 0;
+#if defined(__SSE2__)
+    const __m128i zero = _mm_setzero_si128();
+    for (; i + 16 <= n; i += 16) {
+        const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i *>(p + i));
+        if (_mm_movemask_epi8(_mm_or_si128(bytes, _mm_cmpeq_epi8(bytes, zero))) != 0)
+            break;
+    }
+#else
     constexpr std::uint64_t kOnes = 0x0101010101010101ULL;
     constexpr std::uint64_t kHighs = 0x8080808080808080ULL;
+    for (; i + 8 <= n; i += 8) {
+        std::uint64_t word;
+        std::memcpy(&word, p + i, sizeof word);
+        if ((word & kHighs) != 0 || ((word - kOnes) & ~word & kHighs) != 0)
+            break;
+    }
+#endif
+    return i;
+}
+
+} // namespace
+
+std::size_t ScanUtf8(const char *p, std::size_t n, bool &valid)
+{
     const auto *u = reinterpret_cast<const unsigned char *>(p);
     valid = true;
     std::size_t i = 0;
     while (i < n) {
-        // Eight plain ASCII bytes with no NUL among them at a time.
-        while (i + 8 <= n) {
-            std::uint64_t word;
-            std::memcpy(&word, u + i, sizeof word);
-            if ((word & kHighs) != 0 || ((word - kOnes) & ~word & kHighs) != 0)
-                break;
-            i += 8;
-        }
+        i += PlainAsciiRun(u + i, n - i);
         if (i >= n)
             break;
         if (u[i] == 0)
             return i;
         if (u[i] < 0x80) {
             ++i;
+            continue;
+        }
+        // The two-byte sequences are the most common ones in Latin text.
+        if (u[i] >= 0xC2 && u[i] <= 0xDF && i + 1 < n && (u[i + 1] & 0xC0) == 0x80) {
+            i += 2;
             continue;
         }
         char32_t cp;

@@ -333,3 +333,23 @@ TEST(ConversionsBinary, HexAndBase64RoundTripWithTheirRules)
 }
 
 } // namespace
+
+namespace {
+
+TEST(ConversionsFromString, PartialDatesThroughTheDateType)
+{
+    EXPECT_EQ(CConversions::dayFromString("---05", kNone), 5);
+    EXPECT_EQ(CConversions::dayFromString(" ---31\n", kCollapse), 31);
+    EXPECT_EQ(CConversions::monthFromString("--12", kNone), 12);
+    EXPECT_EQ(CConversions::yearFromString("1998", kNone), 1998);
+    EXPECT_EQ(CConversions::yearFromString("\t0098 ", kCollapse), 98);
+    EXPECT_EQ(CConversions::dayToString(CConversions::dayFromString("---07", kNone)), "---07");
+    EXPECT_EQ(CConversions::monthToString(CConversions::monthFromString("--02", kNone)), "--02");
+    EXPECT_THROW(CConversions::dayFromString("---00", kNone), CVxInvalidValueException);
+    EXPECT_THROW(CConversions::monthFromString("--13", kNone), CVxInvalidValueException);
+    EXPECT_THROW(CConversions::yearFromString("", kNone), CVxInvalidValueException);
+    // Text of another date type holds no such field.
+    EXPECT_THROW(CConversions::dayFromString("--12", kNone), CVxException);
+}
+
+} // namespace

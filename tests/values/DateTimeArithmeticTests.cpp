@@ -56,6 +56,15 @@ TEST(DateTimeArithmetic, AddingAndSubtractingSpans)
         {"2001-01-01", '-', "P1000D", "1998-04-07"},
         {"2001-03-31", '-', "-P1M", "2001-02-31"}, // a negative span still moves back
         {"-0001-12-31", '+', "P1D", "0000-01-01"},  // year 0 is reached without complaint
+        // Long spans, checked against the month-by-month walk; the 16-bit year wraps.
+        {"2001-01-01", '+', "P146097D", "2401-01-01"},
+        {"2001-01-01", '+', "P1Y146096D", "2401-12-31"},
+        {"2001-01-01", '+', "P4294967295D", "30278-04-16"},
+        {"2001-01-01", '-', "P4294967295D", "-26277-09-19"},
+        {"9999-12-31", '+', "P30000000D", "26601-03-18"},
+        // The month step rounds to month -1 (held as 255); the days then climb through
+        // months beyond December.
+        {"1697-02-01", '+', "P52127277M1401626297D", "20261-54-17"},
         {"2001-10-26T00:00:00", '+', "P1Y2M3DT4H5M6.5S", "2002-12-29T04:05:06.5"},
         {"2001-01-31T23:59:59", '+', "PT1S", "2001-02-01T00:00:00"},
         {"2001-01-01T00:00:00", '-', "PT0.000000001S", "2000-12-31T23:59:59.999999999"},

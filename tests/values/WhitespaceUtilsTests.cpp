@@ -55,14 +55,6 @@ TEST(WhitespaceUtils, PreserveOfCharactersAlwaysCopiesTheGivenLength)
     EXPECT_EQ(CWhitespaceUtils::Preserve("abc", -1), "");
 }
 
-TEST(WhitespaceUtils, IsWhiteSpaceKnowsExactlyFourBytes)
-{
-    for (int c = -128; c < 128; ++c) {
-        const bool expected = c == ' ' || c == '\t' || c == '\r' || c == '\n';
-        EXPECT_EQ(CWhitespaceUtils::IsWhiteSpace(static_cast<char>(c)), expected) << c;
-    }
-}
-
 TEST(WhitespaceUtils, UnknownRuleIsAProgrammingError)
 {
     for (int rule : {-1, 4, 1000}) {
