@@ -84,8 +84,10 @@ private:
     CDecimal(const CBigInteger &integerPart, const CBigInteger &fractionPart, int divider);
 
     void Parse(const char *text);
-    // Raises both to the larger divider and returns it.
-    static int Normalize(CDecimal &a, CDecimal &b);
+    // Calls use(a, b, divider) with both values raised to the larger divider; only the
+    // value that must change is copied.
+    template <class Use>
+    static auto Normalize(const CDecimal &a, const CDecimal &b, Use use);
     void ChangeFractionalDivider(int newDivider);
     // Strips trailing zeros of the fraction digits, keeping at least one.
     void Rationalise();

@@ -28,3 +28,5 @@
 #include "BigInteger.h"
 #include "Decimal.h"
 #include "Variant.h"
+#include "BigInteger.h"
+#include "Decimal.h"

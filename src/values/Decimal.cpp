@@ -1,6 +1,7 @@
 #include "Decimal.h"
 
 #include "Exceptions.h"
+#include "WhitespaceUtils.h"
 
 #include <algorithm>
 #include <charconv>
@@ -23,8 +24,6 @@ constexpr std::size_t kExponentBufferSize = 32;
 constexpr int kMaxExponent = 999;
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-
-bool IsWhiteSpace(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
 
 template <std::size_t Size>
 class DigitBuffer
@@ -108,7 +107,7 @@ void CDecimal::Parse(const char *text)
             negative = c == '-';
         } else if (c == '.' || c == 'e' || c == 'E') {
             break;
-        } else if (!IsWhiteSpace(c)) {
+        } else if (!CWhitespaceUtils::IsWhiteSpace(c)) {
             fail(pos);
         }
     }
@@ -118,7 +117,7 @@ void CDecimal::Parse(const char *text)
             if (IsDigit(c)) {
                 if (!fractionDigits.Push(c))
                     fail(pos);
-            } else if (!IsWhiteSpace(c)) {
+            } else if (!CWhitespaceUtils::IsWhiteSpace(c)) {
                 break;
             }
         }
@@ -129,7 +128,7 @@ void CDecimal::Parse(const char *text)
             const char c = text[pos];
             if (c == '-' || c == '+')
                 negativeExponent = c == '-';
-            else if (!IsWhiteSpace(c))
+            else if (!CWhitespaceUtils::IsWhiteSpace(c))
                 break;
         }
         for (; IsDigit(text[pos]); ++pos) {
@@ -270,29 +269,44 @@ void CDecimal::BalanceSigns(CBigInteger &integerPart, CBigInteger &fractionPart,
         integerPart.m_sign = fractionPart.m_sign;
 }
 
+template <class Use>
+auto CDecimal::Normalize(const CDecimal &a, const CDecimal &b, Use use)
+{
+    if (a.m_fractionDivider < b.m_fractionDivider) {
+        CDecimal raised(a);
+        raised.ChangeFractionalDivider(b.m_fractionDivider);
+        return use(raised, b, b.m_fractionDivider);
+    }
+    if (b.m_fractionDivider < a.m_fractionDivider) {
+        CDecimal raised(b);
+        raised.ChangeFractionalDivider(a.m_fractionDivider);
+        return use(a, raised, a.m_fractionDivider);
+    }
+    return use(a, b, a.m_fractionDivider);
+}
+
 // The sum is not cut to m_maxDivider: it keeps the larger divider of its operands.
 CDecimal CDecimal::operator+(const CDecimal &other) const
 {
-    CDecimal a(*this);
-    CDecimal b(other);
-    const int divider = Normalize(a, b);
-    const CBigInteger unit = CBigInteger::Pow10(static_cast<unsigned int>(divider));
-    const CBigInteger negativeUnit = unit.GetNegative();
-    const CBigInteger one(1);
-    CBigInteger fraction = a.m_fractionPart + b.m_fractionPart;
-    CBigInteger integer = a.m_integerPart + b.m_integerPart;
-    while (fraction >= unit) {
-        fraction -= unit;
-        integer += one;
-    }
-    while (fraction <= negativeUnit) {
-        fraction += unit;
-        integer -= one;
-    }
-    BalanceSigns(integer, fraction, unit);
-    CDecimal sum(integer, fraction, divider);
-    sum.Rationalise();
-    return sum;
+    return Normalize(*this, other, [](const CDecimal &a, const CDecimal &b, int divider) {
+        const CBigInteger unit = CBigInteger::Pow10(static_cast<unsigned int>(divider));
+        const CBigInteger negativeUnit = unit.GetNegative();
+        const CBigInteger one(1);
+        CBigInteger fraction = a.m_fractionPart + b.m_fractionPart;
+        CBigInteger integer = a.m_integerPart + b.m_integerPart;
+        while (fraction >= unit) {
+            fraction -= unit;
+            integer += one;
+        }
+        while (fraction <= negativeUnit) {
+            fraction += unit;
+            integer -= one;
+        }
+        BalanceSigns(integer, fraction, unit);
+        CDecimal sum(integer, fraction, divider);
+        sum.Rationalise();
+        return sum;
+    });
 }
 
 CDecimal CDecimal::operator-(const CDecimal &other) const { return *this + other.GetNegative(); }
@@ -300,35 +314,34 @@ CDecimal CDecimal::operator-(const CDecimal &other) const { return *this + other
 // All four cross products over the square of the common scale.
 CDecimal CDecimal::operator*(const CDecimal &other) const
 {
-    CDecimal a(*this);
-    CDecimal b(other);
-    const int divider = Normalize(a, b);
-    const CBigInteger scale = CBigInteger::Pow10(static_cast<unsigned int>(divider));
-    const CBigInteger scaleSquared = CBigInteger::Pow10(static_cast<unsigned int>(2 * divider));
-    const CBigInteger sum = b.m_integerPart * a.m_integerPart * scaleSquared + b.m_integerPart * a.m_fractionPart * scale +
-        b.m_fractionPart * a.m_integerPart * scale + b.m_fractionPart * a.m_fractionPart;
-    CDecimal product(sum / scaleSquared, sum % scaleSquared, 2 * divider);
-    product.Rationalise();
-    product.LimitDivider();
-    return product;
+    return Normalize(*this, other, [](const CDecimal &a, const CDecimal &b, int divider) {
+        const CBigInteger scale = CBigInteger::Pow10(static_cast<unsigned int>(divider));
+        const CBigInteger scaleSquared = CBigInteger::Pow10(static_cast<unsigned int>(2 * divider));
+        const CBigInteger sum = b.m_integerPart * a.m_integerPart * scaleSquared +
+            b.m_integerPart * a.m_fractionPart * scale + b.m_fractionPart * a.m_integerPart * scale +
+            b.m_fractionPart * a.m_fractionPart;
+        CDecimal product(sum / scaleSquared, sum % scaleSquared, 2 * divider);
+        product.Rationalise();
+        product.LimitDivider();
+        return product;
+    });
 }
 
 // Two guard digits beyond m_maxDivider carry the rounding that LimitDivider does.
 CDecimal CDecimal::operator/(const CDecimal &other) const
 {
-    CDecimal a(*this);
-    CDecimal b(other);
-    const int divider = Normalize(a, b);
-    const CBigInteger scale = CBigInteger::Pow10(static_cast<unsigned int>(divider));
-    const int resultDivider = m_maxDivider + 2;
-    const CBigInteger resultScale = CBigInteger::Pow10(static_cast<unsigned int>(resultDivider));
-    const CBigInteger numerator = (scale * a.m_integerPart + a.m_fractionPart) * resultScale;
-    const CBigInteger denominator = scale * b.m_integerPart + b.m_fractionPart;
-    const CBigInteger quotient = numerator / denominator;
-    CDecimal result(quotient / resultScale, quotient % resultScale, resultDivider);
-    result.Rationalise();
-    result.LimitDivider();
-    return result;
+    return Normalize(*this, other, [](const CDecimal &a, const CDecimal &b, int divider) {
+        const CBigInteger scale = CBigInteger::Pow10(static_cast<unsigned int>(divider));
+        const int resultDivider = m_maxDivider + 2;
+        const CBigInteger resultScale = CBigInteger::Pow10(static_cast<unsigned int>(resultDivider));
+        const CBigInteger numerator = (scale * a.m_integerPart + a.m_fractionPart) * resultScale;
+        const CBigInteger denominator = scale * b.m_integerPart + b.m_fractionPart;
+        const CBigInteger quotient = numerator / denominator;
+        CDecimal result(quotient / resultScale, quotient % resultScale, resultDivider);
+        result.Rationalise();
+        result.LimitDivider();
+        return result;
+    });
 }
 
 CDecimal &CDecimal::operator+=(const CDecimal &other) { return *this = *this + other; }
@@ -350,20 +363,18 @@ CDecimal CDecimal::operator--(int) const { return *this - CDecimal(1); }
 template <class IntegerOrder, class FractionOrder>
 bool CDecimal::CompareWith(const CDecimal &other, IntegerOrder integerOrder, FractionOrder fractionOrder) const
 {
-    CDecimal a(*this);
-    CDecimal b(other);
-    Normalize(a, b);
-    if (integerOrder(a.m_integerPart, b.m_integerPart))
-        return true;
-    return a.m_integerPart == b.m_integerPart && fractionOrder(a.m_fractionPart, b.m_fractionPart);
+    return Normalize(*this, other, [&](const CDecimal &a, const CDecimal &b, int) {
+        if (integerOrder(a.m_integerPart, b.m_integerPart))
+            return true;
+        return a.m_integerPart == b.m_integerPart && fractionOrder(a.m_fractionPart, b.m_fractionPart);
+    });
 }
 
 bool CDecimal::operator==(const CDecimal &other) const
 {
-    CDecimal a(*this);
-    CDecimal b(other);
-    Normalize(a, b);
-    return a.m_fractionPart == b.m_fractionPart && a.m_integerPart == b.m_integerPart;
+    return Normalize(*this, other, [](const CDecimal &a, const CDecimal &b, int) {
+        return a.m_fractionPart == b.m_fractionPart && a.m_integerPart == b.m_integerPart;
+    });
 }
 
 bool CDecimal::operator!=(const CDecimal &other) const { return !(*this == other); }
@@ -395,13 +406,6 @@ void CDecimal::SetMaxDecimalPlaces(int places)
     m_maxDivider = places;
 }
 
-int CDecimal::Normalize(CDecimal &a, CDecimal &b)
-{
-    const int divider = std::max(a.m_fractionDivider, b.m_fractionDivider);
-    a.ChangeFractionalDivider(divider);
-    b.ChangeFractionalDivider(divider);
-    return divider;
-}
 
 // Rounds halves toward zero. The carry is never moved into the integer part: a fraction
 // that reaches ten to the divider stays so (0.99 at one digit is fraction 10).
