@@ -1,0 +1,179 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <string>
+
+#include "BinaryData.h"
+#include "Conversions.h"
+#include "DateTime.h"
+#include "Decimal.h"
+#include "Exceptions.h"
+#include "Variant.h"
+#include "XmlObjectBase.h"
+
+using namespace VxXmlLib16;
+
+namespace {
+
+class Counted : public CXmlObjectBase
+{
+public:
+    explicit Counted(int *destroyed) : m_destroyed(destroyed) {}
+    CXmlObjectBase *GetBase() override { return this; }
+    std::string GetTargetNamespace() const override { return ""; }
+    std::string GetNamespace() const override { return ""; }
+
+protected:
+    ~Counted() override { ++*m_destroyed; }
+    void ToXml_Int(CXmlWriter *, bool, const char *, const CSerializationContext &, bool) const override {}
+    CXmlElement *FromXml_Int(CXmlElement *, CXmlElement *, const CSerializationContext &, bool) override
+    {
+        return nullptr;
+    }
+
+private:
+    int *m_destroyed;
+};
+
+template <class F>
+std::string MessageOf(F &&action)
+{
+    try {
+        action();
+    } catch (const CVxException &e) {
+        return e.GetMessage();
+    }
+    return "no exception";
+}
+
+} // namespace
+
+TEST(Variant, StatesInvalidValidNil)
+{
+    VxVariant v;
+    EXPECT_FALSE(v.IsValid());
+    v.SetNil(); // nil without a type
+    EXPECT_TRUE(v.IsValid());
+    EXPECT_EQ(ItemType_Invalid, v.GetTypeAsEnum());
+    v.SetI4(5); // Clear on an invalid variant leaves the nil flag: kept as it is
+    EXPECT_TRUE(v.IsNil());
+    EXPECT_EQ(5, v.GetI4());
+
+    VxVariant s;
+    s.SetString("text");
+    s.SetNil();
+    EXPECT_TRUE(s.IsNil());
+    EXPECT_TRUE(s.IsValid());
+    EXPECT_EQ(ItemType_string, s.GetTypeAsEnum());
+    EXPECT_EQ("", s.GetString()); // the string is gone
+    s.Clear();
+    EXPECT_FALSE(s.IsNil());
+    EXPECT_FALSE(s.IsValid());
+    s.SetBoolean(true);
+    s.SetInvalid();
+    EXPECT_FALSE(s.IsValid());
+}
+
+TEST(Variant, AssignmentCopiesDeeplyAndSelfAssignmentClears)
+{
+    VxVariant s;
+    s.SetString("abc");
+    VxVariant copy(s);
+    s.SetString("changed");
+    EXPECT_EQ("abc", copy.GetString());
+    VxVariant &alias = copy;
+    copy = alias;
+    EXPECT_FALSE(copy.IsValid());
+
+    VxVariant date;
+    date.SetDate(CConversions::dateFromString("2001-02-03", CWhitespaceUtils::WhitespaceRule_Collapse));
+    date.SetNil();
+    const VxVariant nilCopy(date);
+    EXPECT_TRUE(nilCopy.IsNil());
+    EXPECT_EQ(ItemType_date, nilCopy.GetTypeAsEnum());
+
+    VxVariant r8;
+    r8.SetR8(2.5);
+    VxVariant r8Copy;
+    r8Copy = r8;
+    EXPECT_EQ(2.5, r8Copy.GetR8());
+}
+
+TEST(Variant, CountedReferences)
+{
+    int destroyed = 0;
+    {
+        VxVariant v;
+        v.SetXmlObject(nullptr);
+        EXPECT_EQ(ItemType_XmlObject, v.GetTypeAsEnum());
+        EXPECT_EQ(nullptr, v.GetXmlObject());
+        v.Clear();
+
+        Counted *object = new Counted(&destroyed);
+        v.SetXmlObject(object);
+        VxVariant other(v);
+        EXPECT_EQ(3, object->AddRef()); // two variants hold it
+        object->Release();
+        v.Clear();
+        EXPECT_EQ(0, destroyed);
+        EXPECT_EQ(object, other.GetXmlObject());
+    }
+    EXPECT_EQ(1, destroyed);
+}
+
+TEST(Variant, TypeNamesAndTheirFailures)
+{
+    VxVariant v;
+    v.SetDecimal(CDecimal("1.5"));
+    EXPECT_EQ("decimal", v.GetType());
+    v.SetUI2(3);
+    EXPECT_EQ("ui2", v.GetType());
+    v.SetXmlObject(nullptr);
+    EXPECT_EQ("Invalid Type 27", MessageOf([&] { v.GetType(); }));
+    EXPECT_EQ("Invalid Type 27 to convert to string", MessageOf([&] { v.ToString(nullptr); }));
+    v.Clear();
+    EXPECT_EQ("Invalid Type 0", MessageOf([&] { v.GetType(); }));
+    // The message names the variant's own type, not the one asked for.
+    v.SetI4(1);
+    EXPECT_EQ("Invalid Type 5 to convert to string",
+              MessageOf([&] { v.FromString("1", ItemType_XmlObject, CWhitespaceUtils::WhitespaceRule_Collapse); }));
+}
+
+TEST(Variant, FromStringAndToString)
+{
+    VxVariant v;
+    v.FromString(" 42 ", ItemType_i4, CWhitespaceUtils::WhitespaceRule_Collapse);
+    EXPECT_EQ(ItemType_i4, v.GetTypeAsEnum());
+    EXPECT_EQ(42, v.GetI4());
+    EXPECT_EQ("42", v.ToString("%5.2f")); // the format is ignored for integers
+
+    // A failing conversion leaves the old value.
+    EXPECT_THROW(v.FromString("x", ItemType_i4, CWhitespaceUtils::WhitespaceRule_Collapse), CVxInvalidValueException);
+    EXPECT_EQ(42, v.GetI4());
+
+    v.SetR8(1.0 / 3);
+    EXPECT_EQ("0.33", v.ToString("%.2f"));
+    v.SetR8(std::numeric_limits<double>::quiet_NaN());
+    EXPECT_EQ("NaN", v.ToString("%.2f"));
+    const CDecimal third = CDecimal(1) / CDecimal(3);
+    v.SetDecimal(third);
+    EXPECT_EQ(third.ToString(2), v.ToString("2")); // a digit count for decimals
+    EXPECT_EQ(third.ToString(), v.ToString(nullptr));
+
+    const struct {
+        ItemType type;
+        const char *text;
+    } roundTrips[] = {{ItemType_hexBinary, "0AFF"},   {ItemType_base64Binary, "QUJD"}, {ItemType_i1, "-128"},
+                      {ItemType_ui8, "18446744073709551615"}, {ItemType_boolean, "true"}, {ItemType_string, "a b"},
+                      {ItemType_date, "2001-02-03"},  {ItemType_duration, "P1Y2M"},   {ItemType_integer, "-12345678901234567890"},
+                      {ItemType_year, "1999"},        {ItemType_month, "--07"},      {ItemType_day, "---09"},
+                      {ItemType_time, "10:11:12"},    {ItemType_monthDay, "--02-29"}};
+    for (const auto &c : roundTrips) {
+        VxVariant value;
+        value.FromString(c.text, c.type, CWhitespaceUtils::WhitespaceRule_Preserve);
+        EXPECT_EQ(c.text, value.ToString(nullptr)) << c.type;
+        VxVariant copy(value);
+        EXPECT_EQ(c.text, copy.ToString("")) << c.type;
+    }
+}
