@@ -30,3 +30,4 @@
 #include "Variant.h"
 #include "BigInteger.h"
 #include "Decimal.h"
+#include "XmlDocument.h"
