@@ -31,3 +31,5 @@
 #include "BigInteger.h"
 #include "Decimal.h"
 #include "XmlDocument.h"
+#include "Wildcards.h"
+#include "ClassFactory.h"
