@@ -155,10 +155,17 @@ public:
     void SetNamespaceRestrictions(const char *rule, const char *targetNamespace);
     CSmartPtr<CElement> Clone() const;
 
-    using CXmlObjectBase::FromXml;
-    // The document element is this element itself, not its first child.
+    // Reading a document: its document element is this element itself, not its first
+    // child as for other objects.
     void FromXml(const char *text,
                  const CSerializationContext &context = CSerializationContext::GetDefaultContext()) override;
+    void FromXml(const wchar_t *text,
+                 const CSerializationContext &context = CSerializationContext::GetDefaultContext()) override;
+    void FromXmlFile(const char *path,
+                     const CSerializationContext &context = CSerializationContext::GetDefaultContext()) override;
+    using CXmlObjectBase::FromXmlStream;
+    void FromXmlStream(unsigned char *const data, std::uint32_t length,
+                       const CSerializationContext &context = CSerializationContext::GetDefaultContext()) override;
 
 protected:
     ~CElement() override;
@@ -182,6 +189,9 @@ private:
     struct CloneTag {};
     CElement(CloneTag, const CElement &source);
 
+    // Loads a document with the context and reads its document element.
+    template <class Load>
+    void ReadDocument(const CSerializationContext &context, Load load);
     void WriteSubtree(CXmlWriter *writer, const char *namespaceUri, const CSerializationContext &context,
                       bool isChoiceMember) const;
 

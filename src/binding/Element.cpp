@@ -23,6 +23,27 @@ void RefuseKeyword(const char *namespaceUri)
         throw CVxInvalidNamespaceException(FormatString("Invalid Namespace [%s].", namespaceUri), "");
 }
 
+// Reading takes one nested call per element level. Past this depth a document is
+// refused instead of being allowed to exhaust the stack.
+constexpr int kMaxReadDepth = 2000;
+thread_local int t_readDepth = 0;
+
+class ReadDepthGuard
+{
+public:
+    explicit ReadDepthGuard(const CXmlElement &element)
+    {
+        if (t_readDepth >= kMaxReadDepth)
+            throw CVxValidationException(FormatString("The element [%s] is nested deeper than %d levels.",
+                                                      element.GetLocalName().c_str(), kMaxReadDepth),
+                                         element.GetXPath());
+        ++t_readDepth;
+    }
+    ReadDepthGuard(const ReadDepthGuard &) = delete;
+    ReadDepthGuard &operator=(const ReadDepthGuard &) = delete;
+    ~ReadDepthGuard() { --t_readDepth; }
+};
+
 } // namespace
 
 CElement::CElement(const char *name) : CInstanceMonitor("CElement") { Init(name, "", "##any", ""); }
@@ -122,12 +143,33 @@ void CElement::SetNamespaceRestrictions(const char *rule, const char *targetName
         child->SetNamespaceRestrictions(ruleText.c_str(), target.c_str());
 }
 
-void CElement::FromXml(const char *text, const CSerializationContext &context)
+template <class Load>
+void CElement::ReadDocument(const CSerializationContext &context, Load load)
 {
     CXmlDocument document(context);
-    document.LoadXml(text);
+    load(document);
     CXmlElement *root = document.GetDocumentElement();
     FromXml_Int(root, root, context, false);
+}
+
+void CElement::FromXml(const char *text, const CSerializationContext &context)
+{
+    ReadDocument(context, [text](CXmlDocument &document) { document.LoadXml(text); });
+}
+
+void CElement::FromXml(const wchar_t *text, const CSerializationContext &context)
+{
+    ReadDocument(context, [text](CXmlDocument &document) { document.LoadXml(text); });
+}
+
+void CElement::FromXmlFile(const char *path, const CSerializationContext &context)
+{
+    ReadDocument(context, [path](CXmlDocument &document) { document.Load(path); });
+}
+
+void CElement::FromXmlStream(unsigned char *const data, std::uint32_t length, const CSerializationContext &context)
+{
+    ReadDocument(context, [data, length](CXmlDocument &document) { document.LoadXmlStream(data, length); });
 }
 
 void CElement::CopyXmlElement(const CXmlElement *element)
@@ -197,6 +239,7 @@ CXmlElement *CElement::FromXml_Int(CXmlElement *, CXmlElement *cursor, const CSe
 {
     if (!cursor || !IsNamespaceValid(cursor->GetNamespaceURI().c_str(), m_rule.c_str(), m_targetNamespace.c_str()))
         return cursor;
+    const ReadDepthGuard depth(*cursor);
     m_attributes->Clear();
     m_children->Clear();
     CXmlObjectBase::FromXml_Int(m_attributes, cursor, nullptr, context);

@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "BinaryData.h"
 #include "CanonicalXml.h"
 #include "ExceptionAssert.h"
 #include "OrdersDocument.h"
@@ -45,6 +46,21 @@ class OpenAttribute : public CAttribute
 public:
     using CAttribute::CAttribute;
     using CAttribute::FromXml_Int;
+};
+
+// An object whose stream form is its text, recording how it was asked for it.
+class StreamedElement : public CElement
+{
+public:
+    using CElement::CElement;
+    CBinaryData ToXmlStream(bool docHeader, bool formatted, XmlEncoding encoding, EOLType eol,
+                            const CSerializationContext &context, CompressionType compression) const override
+    {
+        request = FormatString("%d %d %d %d %d [%s]", docHeader, formatted, encoding, eol, compression,
+                               context.GetDefaultNamespaceURI().c_str());
+        return CBinaryData(ToXml(docHeader, formatted, eol, context).c_str());
+    }
+    mutable std::string request;
 };
 
 std::string RoundTrip(const std::string &document, bool formatted)
@@ -304,6 +320,28 @@ TEST(Wildcards, ElementWithDefaultNamespaceIsPastedWithItsOwnDeclaration)
     EXPECT_EQ(pasted->Clone()->ToXml(false, false), "<r xmlns=\"urn:d\"><c>t</c></r>");
 }
 
+TEST(Wildcards, ElementBuiltFromAnObjectPastesItsSubtree)
+{
+    CSmartPtr<StreamedElement> object = new StreamedElement("r", "urn:d");
+    object->GetChildElements()->Add("c")->SetText("t");
+    object->GetAttributes()->Add("k", "v");
+    CSmartPtr<CElement> built = new CElement(object.operator->(), "urn:d");
+    EXPECT_EQ(object->request, "0 0 1 1 0 [urn:d]");
+    EXPECT_EQ(built->GetName(), "r");
+    EXPECT_EQ(built->GetAttributes()->GetCount(), 1);
+
+    CSmartPtr<CElement> parent = new CElement("p");
+    parent->GetChildElements()->Add(built.operator->());
+    EXPECT_EQ(parent->ToXml(false, false), "<p><r xmlns=\"urn:d\"><c>t</c></r></p>");
+
+    // Without a default namespace the element is an ordinary one.
+    CSmartPtr<CElement> plain = new CElement(object.operator->(), nullptr);
+    EXPECT_EQ(object->request, "0 0 1 1 0 []");
+    EXPECT_EQ(plain->ToXml(false, false), "<AA:r xmlns:AA=\"urn:d\" AA:k=\"v\"><AA:c>t</AA:c></AA:r>");
+    EXPECT_TRUE(Throws<CVxInvalidParamException>([] { CSmartPtr<CElement> e = new CElement(static_cast<CXmlObjectBase *>(nullptr), "urn:d"); },
+                                                 "The object to build the element from is NULL"));
+}
+
 TEST(SerializationContextRootAttributes, CreatedOnceAndSharedByLaterCopies)
 {
     CSerializationContext context;
@@ -319,4 +357,23 @@ TEST(SerializationContextRootAttributes, CreatedOnceAndSharedByLaterCopies)
     CSerializationContext assigned;
     assigned = copy;
     EXPECT_EQ(assigned.FindAdditionalRootAttributes(), attributes);
+}
+
+TEST(Wildcards, DepthOfReadingIsBounded)
+{
+    const auto nested = [](int depth) {
+        std::string text;
+        for (int i = 0; i < depth; ++i)
+            text += "<e>";
+        for (int i = 0; i < depth; ++i)
+            text += "</e>";
+        return text;
+    };
+    CSmartPtr<CElement> element = new CElement("e");
+    element->FromXml(nested(2000).c_str());
+    EXPECT_EQ(CanonicalXml(element->ToXml(false, false)), CanonicalXml(nested(2000)));
+    EXPECT_THROW(element->FromXml(nested(2001).c_str()), CVxValidationException);
+    // A failed read leaves nothing behind that blocks the next one.
+    element->FromXml("<e><e/></e>");
+    EXPECT_EQ(element->ToXml(false, false), "<e><e/></e>");
 }
