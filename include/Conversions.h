@@ -1,7 +1,8 @@
 #pragma once
 // The single place where a primitive value becomes text and text becomes a primitive.
-// Every FromString applies the whitespace rule first and throws
-// CVxInvalidValueException for text that does not convert.
+// Every FromString applies the whitespace rule first. Text that does not convert throws
+// CVxInvalidValueException, except bad hex text, which the byte buffer reports as a
+// plain CVxException.
 //
 // The integer widths are fixed: i4/ui4 are exactly 32 bits on every platform, so their
 // range errors are those of a 32-bit long. A minus sign is accepted by the unsigned
@@ -40,6 +41,8 @@ public:
     static std::string ui8ToString(std::uint64_t value);
     // NaN gives "NaN", the infinities "INF" and "-INF"; otherwise a non-empty format is a
     // printf format for the value (the FormatOverride of the metadata), else %.7g / %.16g.
+    // A format that does not take exactly one floating-point value (or none) throws
+    // CVxInvalidParamException. The text is never truncated.
     static std::string r4ToString(float value);
     static std::string r4ToString(float value, const std::string &format);
     static std::string r8ToString(double value);

@@ -23,6 +23,9 @@
 //   51932, 51949         EUC-JP, EUC-KR
 //   54936                GB18030
 //
+// Every listed code page keeps the ASCII bytes as they are, so plain ASCII text (and any
+// valid UTF-8 when the local encoding is UTF-8) is copied rather than converted.
+//
 // Any other number is accepted by SetLocalCharEncoding but every conversion into or out
 // of it fails, which gives an empty result. A character that the local encoding cannot
 // hold becomes '?'; a byte sequence that is not valid in its encoding (UTF-8 included)

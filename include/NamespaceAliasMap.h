@@ -1,6 +1,7 @@
 #pragma once
 // The application's preferred aliases: which prefix a namespace URI gets in the output.
-// Ordered by URI, so iteration and root declarations run in ascending byte order.
+// Ordered by URI, so iteration and root declarations run in ascending byte order. A null
+// alias or URI stands for the empty string.
 
 #include <map>
 #include <string>
@@ -19,7 +20,7 @@ public:
     void Add(const char *alias, const char *namespaceUri);
     void RemoveNamespace(const char *namespaceUri);
     int GetNamespaceCount() const;
-    // The URI at that position in key order; the index must lie in 0 to count - 1.
+    // The URI at that position in key order; an index outside 0 to count - 1 fails.
     std::string GetNamespaceAt(int index) const;
     bool DoesNamespaceExist(const char *namespaceUri) const;
     bool DoesAliasExist(const char *alias) const;

@@ -34,8 +34,10 @@ public:
     T *operator->() const { return m_pointer; }
     T &operator*() const { return *m_pointer; }
     operator T *() const { return m_pointer; }
-    bool operator==(const T *pointer) const { return m_pointer == pointer; }
-    bool operator!=(const T *pointer) const { return m_pointer != pointer; }
+    // Taking T * exactly makes these a better match than the built-in pointer comparison
+    // reached through the conversion above; a const T * argument still compares there.
+    bool operator==(T *pointer) const { return m_pointer == pointer; }
+    bool operator!=(T *pointer) const { return m_pointer != pointer; }
 
 private:
     T *m_pointer = nullptr;

@@ -45,7 +45,7 @@ public:
     bool IsNamespaceAttribute() const;
 
 private:
-    // Names and URIs are interned by the document and live as long as it does.
+    // Names and URIs are kept by the document and live as long as it does.
     CXmlAttribute(CXmlElement *element, const std::string *localName, std::string value,
                   const std::string *namespaceUri);
 
@@ -135,7 +135,7 @@ public:
 private:
     friend class CExpatReader;
     friend class CXmlElement;
-    // The nodes and the interned names of the tree; shared by member-wise copies.
+    // The nodes and the names of the tree; shared by member-wise copies.
     struct TreeStorage;
 
     void Init();
@@ -144,14 +144,15 @@ private:
     void LoadFileWhole(const char *fileName);
     void LoadFileInChunks(const char *fileName);
     void AsyncParse(VxPlatform::InputFile &file, bool lastChunk);
-    // Starts a chunk read at the current offset. Failures name the file when one is
-    // given and read as mid-file failures otherwise.
+    // Starts a chunk read at the current offset; failures as FailRead.
     void ReadChunkFromFile(VxPlatform::InputFile &file, unsigned char *buffer, const char *fileName);
     // Waits for the chunk, stores its byte count as data length and moves the offset
     // on; true for the last chunk. Reaching the end of the file fails.
     bool FinishChunk(VxPlatform::InputFile &file, const char *fileName);
-    [[noreturn]] static void FailChunkRead(const char *fileName, std::uint32_t status);
+    // Names the file when one is given; without, the failure lies in mid-file.
+    [[noreturn]] static void FailRead(const char *fileName, std::uint32_t status);
     void AllocateData(std::uint32_t length);
+    void FreeData();
 
     // Nodes live in the document's storage and die through these.
     CXmlElement *NewElement(CXmlElement *parent);
@@ -160,9 +161,9 @@ private:
     static void DestroyElement(CXmlElement *element);
     static void DestroyAttribute(CXmlAttribute *attribute);
 
-    // Names and URIs of the tree are kept once per document.
-    const std::string *Intern(const char *text);
-    const std::string *Intern(std::string &&text);
+    // Names and URIs of the tree live as long as the document's storage.
+    const std::string *StoreName(const char *text);
+    const std::string *StoreName(std::string &&text);
 
     // Building operations of the readers.
     CXmlElement *AddDocElement(const char *uri, const char *localName);

@@ -109,8 +109,11 @@ protected:
     CXmlWriterContext &PushContext(const std::string &localName, const std::string &namespaceUri);
     // Closes the current context; its parent becomes current.
     void PopContext();
-    // The attribute operations' common check.
-    void RequireOpenStartTag() const;
+    // The innermost open element; ending an element when none is open is a fault of the
+    // writer's user and fails instead of touching a missing context.
+    CXmlWriterContext &RequireOpenElement() const;
+    // The attribute operations' common check; returns the element whose tag is open.
+    CXmlWriterContext &RequireOpenStartTag() const;
 
 private:
     std::string m_defaultNamespaceUri;

@@ -79,8 +79,10 @@ CVxValidationException::CVxValidationException(const CVxException &other) : CVxE
 
 CVxValidationException &CVxValidationException::operator=(const CVxValidationException &other)
 {
-    CVxException::operator=(other);
+    // Own field first: the base assignment frees the old inner exception, which may be
+    // the very object assigned from.
     m_reserved = other.m_reserved;
+    CVxException::operator=(other);
     return *this;
 }
 

@@ -12,14 +12,24 @@ namespace VxXmlLib16 {
 
 namespace {
 
-unsigned int g_localCodePage = 65001;
-bool g_asciiOnly = false;
-
 // 0 and 3 name the system and thread defaults elsewhere; here the default is UTF-8.
 bool IsUtf8CodePage(unsigned int codePage)
 {
     return codePage == 65001 || codePage == 0 || codePage == 3;
 }
+
+enum class LocalKind { Utf8, AsciiCompatible, Unmapped };
+
+LocalKind KindOf(unsigned int codePage)
+{
+    if (IsUtf8CodePage(codePage))
+        return LocalKind::Utf8;
+    return VxPlatform::CodePageCharset(codePage) ? LocalKind::AsciiCompatible : LocalKind::Unmapped;
+}
+
+unsigned int g_localCodePage = 65001;
+LocalKind g_localKind = LocalKind::Utf8;
+bool g_asciiOnly = false;
 
 // Writes into a caller's buffer as far as it reaches while counting the whole output,
 // so one call both converts and, when the buffer was too small, tells the size needed.
@@ -46,7 +56,7 @@ private:
 std::size_t WideToLocal(const char16_t *text, std::size_t count, char *out, std::size_t capacity)
 {
     BoundedOutput<char> output(out, capacity);
-    if (IsUtf8CodePage(g_localCodePage)) {
+    if (g_localKind == LocalKind::Utf8) {
         Utf8Codec::ForEachCodePoint(text, text + count, [&output](char32_t cp) {
             if (Utf8Codec::IsHighSurrogate(cp) || Utf8Codec::IsLowSurrogate(cp))
                 cp = Utf8Codec::kReplacement;
@@ -104,7 +114,7 @@ namespace LocalTextDetail {
 std::size_t LocalToWide(const char *text, std::size_t count, char16_t *out, std::size_t capacity)
 {
     BoundedOutput<char16_t> output(out, capacity);
-    if (IsUtf8CodePage(g_localCodePage)) {
+    if (g_localKind == LocalKind::Utf8) {
         DecodeUtf8(text, count, output);
         return output.Total();
     }
@@ -114,11 +124,18 @@ std::size_t LocalToWide(const char *text, std::size_t count, char16_t *out, std:
     return mapped ? output.Total() : 0;
 }
 
-bool LocalIsUtf8() { return IsUtf8CodePage(g_localCodePage); }
+bool SameAsUtf8(const Utf8Codec::Utf8Scan &scan)
+{
+    return scan.valid && (g_localKind == LocalKind::Utf8 || (scan.ascii && g_localKind == LocalKind::AsciiCompatible));
+}
 
 } // namespace LocalTextDetail
 
-void SetLocalCharEncoding(unsigned int codePage) { g_localCodePage = codePage; }
+void SetLocalCharEncoding(unsigned int codePage)
+{
+    g_localCodePage = codePage;
+    g_localKind = KindOf(codePage);
+}
 unsigned int GetLocalCharEncoding() { return g_localCodePage; }
 void ASCIIOnly(bool asciiOnly) { g_asciiOnly = asciiOnly; }
 bool IsASCIIOnly() { return g_asciiOnly; }
@@ -138,15 +155,12 @@ std::string Utf8ToLocal(const char *bytes, unsigned int count, char16_t *wideScr
         return {};
     if (g_asciiOnly)
         return std::string(bytes, count);
-    std::size_t length = count;
-    if (IsUtf8CodePage(g_localCodePage)) {
-        // The parser delivers valid UTF-8, which comes back unchanged: copy it. Only
-        // ill-formed input needs the way through UTF-16 that replaces it.
-        bool valid;
-        length = Utf8Codec::ScanUtf8(bytes, length, valid);
-        if (valid)
-            return std::string(bytes, length);
-    }
+    // The parser delivers valid UTF-8, mostly ASCII, which usually comes out unchanged:
+    // then it is copied. The result ends at the first NUL either way.
+    const Utf8Codec::Utf8Scan scan = Utf8Codec::ScanUtf8(bytes, count);
+    if (LocalTextDetail::SameAsUtf8(scan))
+        return std::string(bytes, scan.length);
+    const std::size_t length = scan.length;
     std::vector<char16_t> wideHeap;
     char16_t *wide = wideScratch;
     if (!wide || wideScratchCount < length + 1) {
@@ -154,12 +168,12 @@ std::string Utf8ToLocal(const char *bytes, unsigned int count, char16_t *wideScr
         wide = wideHeap.data();
     }
     std::size_t units = 0;
-    const auto *begin = reinterpret_cast<const unsigned char *>(bytes);
-    if (std::any_of(begin, begin + length, [](unsigned char b) { return b > 127; })) {
+    if (!scan.ascii) {
         BoundedOutput<char16_t> output(wide, length + 1);
         DecodeUtf8(bytes, length, output);
         units = output.Total();
     } else {
+        const auto *begin = reinterpret_cast<const unsigned char *>(bytes);
         units = std::copy(begin, begin + length, wide) - wide;
     }
     return WideToLocalString(wide, units, narrowScratch, narrowScratch ? narrowScratchCount : 0);

@@ -76,13 +76,8 @@ CBinaryData LocalToUtf8Data(const char *text)
         return CBinaryData();
     if (IsASCIIOnly())
         return CBinaryData(text);
-    if (LocalTextDetail::LocalIsUtf8()) {
-        // Valid UTF-8 comes back from UTF-16 unchanged.
-        bool valid;
-        Utf8Codec::ScanUtf8(text, std::strlen(text), valid);
-        if (valid)
-            return CBinaryData(text);
-    }
+    if (LocalTextDetail::SameAsUtf8(Utf8Codec::ScanUtf8(text, std::strlen(text))))
+        return CBinaryData(text);
     return Utf16ToUtf8Data(WidenLocal(text).data());
 }
 

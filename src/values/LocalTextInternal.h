@@ -3,10 +3,14 @@
 
 #include <cstddef>
 
+#include "values/Utf8Codec.h"
+
 namespace VxXmlLib16::LocalTextDetail {
 
-// Whether the local code page is UTF-8.
-bool LocalIsUtf8();
+// Whether text of this scan has the same bytes in the local encoding as in UTF-8: valid
+// UTF-8 when the local encoding is UTF-8, plain ASCII in any other code page that has a
+// converter, since every one of them keeps the ASCII bytes.
+bool SameAsUtf8(const Utf8Codec::Utf8Scan &scan);
 
 // Local text to UTF-16 units (host order). Writes as far as out reaches (out may be null)
 // and returns the number of units the whole text needs; 0 when the local code page has

@@ -106,21 +106,24 @@ std::size_t PlainAsciiRun(const unsigned char *p, std::size_t n)
 
 } // namespace
 
-std::size_t ScanUtf8(const char *p, std::size_t n, bool &valid)
+Utf8Scan ScanUtf8(const char *p, std::size_t n)
 {
     const auto *u = reinterpret_cast<const unsigned char *>(p);
-    valid = true;
+    Utf8Scan scan{n, true, true};
     std::size_t i = 0;
     while (i < n) {
         i += PlainAsciiRun(u + i, n - i);
         if (i >= n)
             break;
-        if (u[i] == 0)
-            return i;
+        if (u[i] == 0) {
+            scan.length = i;
+            return scan;
+        }
         if (u[i] < 0x80) {
             ++i;
             continue;
         }
+        scan.ascii = false;
         // The two-byte sequences are the most common ones in Latin text.
         if (u[i] >= 0xC2 && u[i] <= 0xDF && i + 1 < n && (u[i + 1] & 0xC0) == 0x80) {
             i += 2;
@@ -130,12 +133,14 @@ std::size_t ScanUtf8(const char *p, std::size_t n, bool &valid)
         bool ok;
         i += DecodeOne(u + i, n - i, cp, ok);
         if (!ok) {
-            valid = false;
+            scan.valid = false;
             const void *nul = std::memchr(u + i, 0, n - i);
-            return nul ? static_cast<std::size_t>(static_cast<const unsigned char *>(nul) - u) : n;
+            if (nul)
+                scan.length = static_cast<std::size_t>(static_cast<const unsigned char *>(nul) - u);
+            return scan;
         }
     }
-    return n;
+    return scan;
 }
 
 } // namespace VxXmlLib16::Utf8Codec

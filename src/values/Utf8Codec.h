@@ -25,9 +25,15 @@ void Encode(char32_t cp, char *out);
 // valid is false (and cp U+FFFD) for an ill-formed subpart.
 std::size_t DecodeOne(const unsigned char *p, std::size_t n, char32_t &cp, bool &valid);
 
-// The length of the text up to its first NUL (or n), and whether that part is valid
-// UTF-8. ASCII runs are checked a word at a time.
-std::size_t ScanUtf8(const char *p, std::size_t n, bool &valid);
+struct Utf8Scan
+{
+    std::size_t length; // up to the first NUL, or all
+    bool valid;         // that part is well-formed UTF-8
+    bool ascii;         // that part is plain ASCII
+};
+
+// Looks at the text up to its first NUL; ASCII runs sixteen bytes at a time.
+Utf8Scan ScanUtf8(const char *p, std::size_t n);
 
 // Walks UTF-16 units. A valid surrogate pair gives one code point; a lone surrogate
 // is handed over as such (a value from 0xD800 to 0xDFFF). emit returns false to stop.

@@ -19,6 +19,8 @@ constexpr XML_Char kNamespaceSeparator = '|';
 // output passes the threshold, which bounds "billion laughs" documents.
 constexpr float kMaximumAmplification = 100.0f;
 constexpr unsigned long long kAmplificationThreshold = 8ull * 1024 * 1024;
+// Distinct names remembered per parse; real vocabularies stay far below.
+constexpr std::size_t kMostCachedNames = 4096;
 // XML_Parse takes an int length; larger buffers go in slices.
 constexpr std::uint32_t kLargestSlice = 1u << 30;
 
@@ -136,7 +138,7 @@ void CExpatReader::AppendText(const char *bytes, std::size_t count)
     CXmlDocument::AppendTextExcludingCR(element, local.data(), local.size());
 }
 
-const CExpatReader::QualifiedName &CExpatReader::LookupName(const XML_Char *rawName)
+CExpatReader::QualifiedName CExpatReader::LookupName(const XML_Char *rawName)
 {
     const std::string_view raw(rawName);
     if (const auto found = m_names.find(raw); found != m_names.end())
@@ -146,14 +148,15 @@ const CExpatReader::QualifiedName &CExpatReader::LookupName(const XML_Char *rawN
     const std::size_t separator = local.find(kNamespaceSeparator);
     QualifiedName name{};
     if (separator == std::string::npos) {
-        name.uri = m_document->Intern(std::string());
-        name.localName = m_document->Intern(std::move(local));
+        name.uri = m_document->StoreName(std::string());
+        name.localName = m_document->StoreName(std::move(local));
     } else {
-        name.uri = m_document->Intern(local.substr(0, separator));
-        name.localName = m_document->Intern(local.substr(separator + 1));
+        name.uri = m_document->StoreName(local.substr(0, separator));
+        name.localName = m_document->StoreName(local.substr(separator + 1));
     }
-    const std::string &key = m_rawNames.emplace_back(raw);
-    return m_names.emplace(std::string_view(key), name).first->second;
+    if (m_names.size() < kMostCachedNames)
+        m_names.emplace(std::string_view(m_rawNames.emplace_back(raw)), name);
+    return name;
 }
 
 template <class Action>
@@ -176,10 +179,10 @@ void CExpatReader::AppendMarker(std::string_view marker)
 void XMLCALL CExpatReader::OnStartElement(void *userData, const XML_Char *rawName, const XML_Char **attributes)
 {
     Guarded(userData, [&](CExpatReader &reader) {
-        const QualifiedName &name = reader.LookupName(rawName);
+        const QualifiedName name = reader.LookupName(rawName);
         CXmlElement *element = reader.m_document->OpenElement(name.uri, name.localName);
         for (; *attributes; attributes += 2) {
-            const QualifiedName &attributeName = reader.LookupName(attributes[0]);
+            const QualifiedName attributeName = reader.LookupName(attributes[0]);
             CXmlDocument::AddElementAttribute(element, attributeName.localName,
                                               reader.ToLocal(attributes[1], std::strlen(attributes[1]), false),
                                               attributeName.uri);

@@ -42,14 +42,14 @@ private:
         char16_t wide[256];
         char narrow[512];
     };
-    // A name as the tree holds it, split at the namespace separator and interned.
+    // A name as the tree holds it, split at the namespace separator.
     struct QualifiedName
     {
         const std::string *uri;
         const std::string *localName;
     };
 
-    const QualifiedName &LookupName(const XML_Char *rawName);
+    QualifiedName LookupName(const XML_Char *rawName);
     // The one place where parser text becomes local text.
     std::string ToLocal(const char *bytes, std::size_t count, bool useScratch);
     void AppendText(const char *bytes, std::size_t count);
@@ -73,7 +73,8 @@ private:
     XML_Parser m_parser = nullptr;
     // Local text equals UTF-8 as Expat delivers it, so no conversion is needed.
     bool m_passThrough = false;
-    // Each distinct raw name is converted and split once per parse.
+    // Each distinct raw name is converted and split once per parse, up to a bound: past
+    // it names are converted each time, so that crafted hash collisions cost little.
     std::deque<std::string> m_rawNames;
     std::unordered_map<std::string_view, QualifiedName> m_names;
     std::exception_ptr m_failure;

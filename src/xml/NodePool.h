@@ -25,9 +25,12 @@ private:
     {
         FreeSlot *next;
     };
+    using Block = std::unique_ptr<std::byte, void (*)(std::byte *)>;
+
+    void AddBlock();
 
     std::size_t m_slotSize;
-    std::vector<std::unique_ptr<std::byte[]>> m_blocks;
+    std::vector<Block> m_blocks;
     std::size_t m_blockSlots = 0;
     std::size_t m_usedSlots = 0;
     FreeSlot *m_free = nullptr;

@@ -1,7 +1,7 @@
 #include "XmlDocument.h"
 
 #include <cstring>
-#include <unordered_set>
+#include <deque>
 
 #include "Exceptions.h"
 #include "SerializationContext.h"
@@ -13,7 +13,9 @@ struct CXmlDocument::TreeStorage
 {
     CNodePool elements{sizeof(CXmlElement), alignof(CXmlElement)};
     CNodePool attributes{sizeof(CXmlAttribute), alignof(CXmlAttribute)};
-    std::unordered_set<std::string> names;
+    // Append-only, so that names keep their place; readers share one string between
+    // the elements of one name.
+    std::deque<std::string> names;
 };
 
 CXmlDocument::CXmlDocument() : CXmlDocument(nullptr, CSerializationContext::GetDefaultContext()) {}
@@ -48,9 +50,7 @@ void CXmlDocument::Cleanup()
     if (m_documentElement)
         DestroyElement(m_documentElement);
     m_documentElement = nullptr;
-    delete[] m_data;
-    m_data = nullptr;
-    m_dataLength = 0;
+    FreeData();
     m_openElements.clear();
     m_aliases.clear();
     // Fresh storage, so that a copy of this document keeps what it points to.
@@ -72,11 +72,11 @@ std::string CXmlDocument::LookupNamespaceFromAlias(const char *alias) const
     return found == m_aliases.end() ? std::string() : found->second;
 }
 
-const std::string *CXmlDocument::Intern(const char *text) { return Intern(std::string(text ? text : "")); }
+const std::string *CXmlDocument::StoreName(const char *text) { return StoreName(std::string(text ? text : "")); }
 
-const std::string *CXmlDocument::Intern(std::string &&text)
+const std::string *CXmlDocument::StoreName(std::string &&text)
 {
-    return &*m_storage->names.insert(std::move(text)).first;
+    return &m_storage->names.emplace_back(std::move(text));
 }
 
 CXmlElement *CXmlDocument::NewElement(CXmlElement *parent)
@@ -111,12 +111,12 @@ CXmlElement *CXmlDocument::AddDocElement(const char *uri, const char *localName)
         DestroyElement(m_documentElement);
     m_documentElement = nullptr;
     m_openElements.clear();
-    return OpenElement(Intern(uri), Intern(localName));
+    return OpenElement(StoreName(uri), StoreName(localName));
 }
 
 CXmlElement *CXmlDocument::AddChildElement(const char *uri, const char *localName)
 {
-    return OpenElement(Intern(uri), Intern(localName));
+    return OpenElement(StoreName(uri), StoreName(localName));
 }
 
 CXmlElement *CXmlDocument::OpenElement(const std::string *uri, const std::string *localName)
@@ -140,7 +140,7 @@ CXmlAttribute *CXmlDocument::AddElementAttribute(CXmlElement *element, const cha
                                                  const char *uri)
 {
     CXmlDocument *document = element->GetDocument();
-    return element->AddAttribute(document->Intern(localName), value ? value : "", document->Intern(uri));
+    return element->AddAttribute(document->StoreName(localName), value ? value : "", document->StoreName(uri));
 }
 
 CXmlAttribute *CXmlDocument::AddElementAttribute(CXmlElement *element, const std::string *localName,

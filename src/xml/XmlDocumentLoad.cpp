@@ -7,6 +7,7 @@
 #include "Exceptions.h"
 #include "XmlDocument.h"
 #include "XmlObjectBase.h"
+#include "platform/HugeBlock.h"
 #include "platform/InputFile.h"
 #include "xml/ExpatReader.h"
 
@@ -18,15 +19,27 @@ constexpr std::uint32_t kChunkSize = 131072;
 
 const char *NameForMessage(const char *fileName) { return fileName ? fileName : ""; }
 
+void OpenForReading(VxPlatform::InputFile &file, const char *fileName)
+{
+    if (const std::uint32_t error = file.Open(NameForMessage(fileName)))
+        throw CVxException(
+            FormatString("Failed to open the file [%s] Error [0x%08x]", NameForMessage(fileName), error));
+}
+
 } // namespace
 
 void CXmlDocument::AllocateData(std::uint32_t length)
 {
-    delete[] m_data;
+    FreeData();
+    m_data = VxPlatform::AllocateBuffer(length);
+    m_dataLength = length;
+}
+
+void CXmlDocument::FreeData()
+{
+    VxPlatform::FreeBuffer(m_data);
     m_data = nullptr;
     m_dataLength = 0;
-    m_data = new unsigned char[length];
-    m_dataLength = length;
 }
 
 void CXmlDocument::LoadXml(const char *text)
@@ -109,9 +122,7 @@ void CXmlDocument::ParseText()
 void CXmlDocument::LoadFileWhole(const char *fileName)
 {
     VxPlatform::InputFile file;
-    if (const std::uint32_t error = file.Open(NameForMessage(fileName)))
-        throw CVxException(
-            FormatString("Failed to open the file [%s] Error [0x%08x]", NameForMessage(fileName), error));
+    OpenForReading(file, fileName);
     std::uint64_t size = 0;
     if (const std::uint32_t error = file.GetSize(size))
         throw CVxException(
@@ -123,8 +134,7 @@ void CXmlDocument::LoadFileWhole(const char *fileName)
     if (error == 0 && count != m_dataLength)
         error = VxPlatform::kEndOfFileStatus;
     if (error)
-        throw CVxException(
-            FormatString("Failed to read the contents of the file [%s] Error [0x%08x]", NameForMessage(fileName), error));
+        FailRead(NameForMessage(fileName), error);
     file.Close();
     Parse();
 }
@@ -132,9 +142,7 @@ void CXmlDocument::LoadFileWhole(const char *fileName)
 void CXmlDocument::LoadFileInChunks(const char *fileName)
 {
     VxPlatform::InputFile file;
-    if (const std::uint32_t error = file.Open(NameForMessage(fileName)))
-        throw CVxException(
-            FormatString("Failed to open the file [%s] Error [0x%08x]", NameForMessage(fileName), error));
+    OpenForReading(file, fileName);
     // This path cleans up after itself: a failed load leaves an empty document.
     try {
         m_fileOffset = 0;
@@ -151,7 +159,8 @@ void CXmlDocument::AsyncParse(VxPlatform::InputFile &file, bool lastChunk)
 {
     CExpatReader reader(this);
     reader.Initialise();
-    std::unique_ptr<unsigned char[]> next(new unsigned char[kChunkSize]);
+    std::unique_ptr<unsigned char, void (*)(unsigned char *)> next(VxPlatform::AllocateBuffer(kChunkSize),
+                                                                  &VxPlatform::FreeBuffer);
     while (!lastChunk) {
         ReadChunkFromFile(file, next.get(), nullptr);
         reader.ParseBuffer(false);
@@ -164,12 +173,10 @@ void CXmlDocument::AsyncParse(VxPlatform::InputFile &file, bool lastChunk)
     reader.ParseBuffer(true);
     if (!m_documentElement)
         throw CVxException("Invalid or empty XML document");
-    delete[] m_data;
-    m_data = nullptr;
-    m_dataLength = 0;
+    FreeData();
 }
 
-void CXmlDocument::FailChunkRead(const char *fileName, std::uint32_t status)
+void CXmlDocument::FailRead(const char *fileName, std::uint32_t status)
 {
     if (fileName)
         throw CVxException(FormatString("Failed to read the contents of the file [%s] Error [0x%08x]", fileName, status));
@@ -181,7 +188,7 @@ void CXmlDocument::ReadChunkFromFile(VxPlatform::InputFile &file, unsigned char 
     const std::uint32_t status = file.StartChunk(buffer, kChunkSize, m_fileOffset);
     // The end of the file shows in the wait that follows.
     if (status != 0 && status != VxPlatform::kEndOfFileStatus)
-        FailChunkRead(fileName, status);
+        FailRead(fileName, status);
 }
 
 bool CXmlDocument::FinishChunk(VxPlatform::InputFile &file, const char *fileName)
@@ -191,7 +198,7 @@ bool CXmlDocument::FinishChunk(VxPlatform::InputFile &file, const char *fileName
     // Reaching the end is a failure, so a file whose length is a multiple of the chunk
     // size fails; any other failing status counts as a read of nothing.
     if (status == VxPlatform::kEndOfFileStatus)
-        FailChunkRead(fileName, status);
+        FailRead(fileName, status);
     if (status != 0)
         count = 0;
     m_fileOffset += count;

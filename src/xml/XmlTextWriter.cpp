@@ -235,7 +235,7 @@ void CXmlTextWriter::WriteElementValue(const std::string &text, ItemType, bool i
 
 void CXmlTextWriter::EndElement()
 {
-    CXmlWriterContext &context = *GetCurrentContext();
+    CXmlWriterContext &context = RequireOpenElement();
     if (context.IsStartTagOpen()) {
         m_stream->Append("/>", 2);
     } else {
@@ -259,8 +259,7 @@ void CXmlTextWriter::EndElement()
 void CXmlTextWriter::WriteAttribute(const std::string &localName, const std::string &namespaceUri,
                                     const std::string &value, ItemType)
 {
-    RequireOpenStartTag();
-    CXmlWriterContext &context = *GetCurrentContext();
+    CXmlWriterContext &context = RequireOpenStartTag();
     m_stream->Append(' ');
     if (!namespaceUri.empty()) {
         if (!context.HasAlias(namespaceUri)) {
@@ -282,8 +281,7 @@ void CXmlTextWriter::WriteAttribute(const std::string &localName, const std::str
 void CXmlTextWriter::WriteTypeAttribute(const std::string &namespaceUri, const std::string &typeName,
                                         ItemType type)
 {
-    RequireOpenStartTag();
-    CXmlWriterContext &context = *GetCurrentContext();
+    CXmlWriterContext &context = RequireOpenStartTag();
     std::string value;
     if (namespaceUri.empty() || namespaceUri == context.GetDefaultNamespace()) {
         value = typeName;

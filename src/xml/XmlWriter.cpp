@@ -120,10 +120,18 @@ void CXmlWriter::PopContext()
     m_current = std::move(parent);
 }
 
-void CXmlWriter::RequireOpenStartTag() const
+Context &CXmlWriter::RequireOpenElement() const
+{
+    if (!m_current)
+        throw CVxException("No element is open.");
+    return *m_current;
+}
+
+Context &CXmlWriter::RequireOpenStartTag() const
 {
     if (!m_current || !m_current->IsStartTagOpen())
         throw CVxException("Attributes must be added before elements");
+    return *m_current;
 }
 
 } // namespace VxXmlLib16

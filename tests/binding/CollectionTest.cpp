@@ -196,6 +196,7 @@ TEST(Collection, DestructionClearsAndCopiesNeverShareNodes)
         items->AppendItem(new Item("a", &destroyed));
         items->AppendItem(new Item("b", &destroyed));
         CSmartPtr<ItemCollection> copy(new ItemCollection(*items));
+        copy->Release(); // a copy starts with its source's count; drop the one it took over
         EXPECT_EQ(0, copy->GetCount());
         EXPECT_EQ("item", copy->GetElementName());
     }

@@ -131,6 +131,7 @@ TEST(Utf8ToLocal, Windows1252LocalTranscodes)
         {"unmappable pair", "\xF0\x9F\x98\x80", "?"},
         {"ill-formed utf-8", "a\xC3", "a?"},
         {"ends at nul", std::string("\xC3\xA9\0\xC3\xA9", 5), "\xE9"},
+        {"ascii ends at nul", std::string("ab\0c", 4), "ab"},
     };
     for (const auto &c : cases) {
         for (unsigned int size : kScratchSizes) {
@@ -266,6 +267,7 @@ TEST(LocalToUtf8Data, TranscodesOrPassesThroughWithAsciiOnly)
         {65001, false, "a\xFF" "b", "a\xEF\xBF\xBD" "b"},
         {1252, false, "caf\xE9 \x80", "caf\xC3\xA9 \xE2\x82\xAC"},
         {1252, true, "caf\xE9", "caf\xE9"},
+        {1252, false, "plain", "plain"},
         {65001, true, "a\xFF", "a\xFF"},
         {4711, false, "abc", ""},
         {65001, false, "", ""},

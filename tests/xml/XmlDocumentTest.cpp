@@ -214,3 +214,20 @@ TEST(XmlDocumentTest, CallbackDropsConsumedElementsAndKeepsTheRest)
     EXPECT_EQ(root->GetFirstElement()->GetNextSiblingElement(), nullptr);
     EXPECT_EQ(root->GetFirstElement()->GetXPath(), "/r/keep");
 }
+
+TEST(XmlDocumentTest, NamesBeyondTheReadersMemoryStillArriveWhole)
+{
+    std::string text = "<r xmlns:p='urn:p'>";
+    for (int i = 0; i < 6000; ++i)
+        text += "<p:n" + std::to_string(i) + " a" + std::to_string(i) + "='v'/>";
+    text += "<p:n0/></r>";
+    CXmlDocument document;
+    document.LoadXml(text.c_str());
+    const CXmlElement *child = document.GetDocumentElement()->GetFirstElement();
+    for (int i = 0; i < 5999; ++i)
+        child = child->GetNextSiblingElement();
+    EXPECT_EQ(child->GetLocalName(), "n5999");
+    EXPECT_EQ(child->GetNamespaceURI(), "urn:p");
+    EXPECT_EQ(child->GetAttribute("a5999", ""), "v");
+    EXPECT_EQ(child->GetNextSiblingElement()->GetXPath(), "/r/p:n0[2]");
+}

@@ -1,0 +1,218 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "Exceptions.h"
+#include "SerializationContext.h"
+#include "TestSupport.h"
+#include "TreeObject.h"
+#include "XmlCollectionBase.h"
+#include "XmlWriter.h"
+
+using namespace VxXmlLib16;
+using VxTest::CTreeObject;
+using VxTest::ExpectFailure;
+
+namespace {
+
+const std::string XmlNs = "http://www.w3.org/XML/1998/namespace";
+
+// A document that uses every part of the text form at once: nested elements, attributes
+// with and without namespaces, a default namespace, aliases from the context's map (the
+// XML namespace among them, never declared), generated aliases with their scope, a
+// processing instruction and text that needs escaping.
+class SampleDocument : public ::testing::Test
+{
+protected:
+    SampleDocument()
+    {
+        context.SetDefaultNamespaceURI("urn:d");
+        context.GetNamespaceAliases().Add("zz", "urn:zz");
+        context.GetNamespaceAliases().Add("ex", "urn:ex");
+        context.GetNamespaceAliases().Add("xml", XmlNs.c_str());
+        context.GetProcessingInstructions().push_back("<?xml-stylesheet href=\"s.xsl\"?>");
+
+        root->AddAttribute("id", "7").AddAttribute("lang", "a<b&\"c\"", "urn:ex").AddAttribute("lang", "en", XmlNs);
+        root->AddChild(new CTreeObject("title", "urn:d")).SetText("Fish & Chips > \"x\"\r\nline2");
+        CTreeObject &item = root->AddChild(new CTreeObject("item", "urn:ex"));
+        item.AddAttribute("flag", "yes", "urn:other");
+        item.AddChild(new CTreeObject("note", "urn:d"));
+        item.AddChild(new CTreeObject("sub", "urn:other")).SetText("1");
+        root->AddChild(new CTreeObject("local"));
+        root->AddChild(new CTreeObject("other", "urn:new"));
+    }
+
+    // Writes the document with both line ends: the text must be the expected one, with
+    // its line feeds turned into CR LF for the second, and must parse.
+    void ExpectWrittenAs(bool formatted, const std::string &expectedWithLf)
+    {
+        std::string expectedWithCrLf = expectedWithLf;
+        for (std::size_t at = 0; (at = expectedWithCrLf.find('\n', at)) != std::string::npos; at += 2)
+            expectedWithCrLf.replace(at, 1, "\r\n");
+        const std::pair<EOLType, std::string> cases[] = {{EOLType_LF, expectedWithLf},
+                                                         {EOLType_CRLF, expectedWithCrLf}};
+        for (const auto &[eol, expected] : cases) {
+            const std::string text = root->ToXml(true, formatted, eol, context);
+            EXPECT_EQ(text, expected);
+            EXPECT_EQ(VxTest::ExpatCheck(text), "");
+        }
+    }
+
+    CSerializationContext context;
+    CSmartPtr<CTreeObject> root = new CTreeObject("doc", "urn:d");
+};
+
+const char *const Prolog = "<?xml version=\"1.0\"?>\n"
+                           "<?xml-stylesheet href=\"s.xsl\"?>\n\n";
+const char *const RootTag = "<doc xmlns=\"urn:d\" xmlns:ex=\"urn:ex\" xmlns:zz=\"urn:zz\" id=\"7\" "
+                            "ex:lang=\"a&lt;b&amp;&quot;c&quot;\" xml:lang=\"en\">";
+
+} // namespace
+
+TEST_F(SampleDocument, FormattedWithLineFeedsAndCrLf)
+{
+    const std::string expected = std::string(Prolog) + RootTag + "\n"
+                                 "\t<title>Fish &amp; Chips &gt; \"x\"\nline2</title>\n"
+                                 "\t<ex:item xmlns:AA=\"urn:other\" AA:flag=\"yes\">\n"
+                                 "\t\t<note/>\n"
+                                 "\t\t<AA:sub>1</AA:sub>\n"
+                                 "\t</ex:item>\n"
+                                 "\t<local/>\n"
+                                 "\t<AA:other xmlns:AA=\"urn:new\"/>\n"
+                                 "</doc>\n";
+    ExpectWrittenAs(true, expected);
+}
+
+TEST_F(SampleDocument, UnformattedKeepsLineEndsOnlyInTheProlog)
+{
+    const std::string expected = std::string(Prolog) + RootTag +
+                                 "<title>Fish &amp; Chips &gt; \"x\"\nline2</title>"
+                                 "<ex:item xmlns:AA=\"urn:other\" AA:flag=\"yes\"><note/><AA:sub>1</AA:sub></ex:item>"
+                                 "<local/><AA:other xmlns:AA=\"urn:new\"/></doc>";
+    ExpectWrittenAs(false, expected);
+}
+
+TEST_F(SampleDocument, ContextIndentCharsAndNoHeader)
+{
+    context.SetIndentChars("  ");
+    context.GetProcessingInstructions().clear();
+    const std::string text = root->ToXml(false, true, EOLType_LF, context);
+    const std::string start = std::string(RootTag) + "\n  <title>";
+    EXPECT_EQ(text.substr(0, start.size()), start);
+    EXPECT_NE(text.find("\n    <AA:sub>1</AA:sub>\n"), std::string::npos) << text;
+}
+
+TEST(ObjectToXml, DefaultArgumentsWriteAFormattedDocumentWithHeader)
+{
+    CSmartPtr<CTreeObject> root = new CTreeObject("r");
+    root->AddChild(new CTreeObject("c"));
+    EXPECT_EQ(root->ToXml(), "<?xml version=\"1.0\"?>\n<r>\n\t<c/>\n</r>\n");
+}
+
+TEST(ObjectToXml, InvalidEolTypeWritesNothing)
+{
+    CSmartPtr<CTreeObject> root = new CTreeObject("r");
+    ExpectFailure<CVxException>(
+        [&] { root->ToXml(true, true, static_cast<EOLType>(2), CSerializationContext::GetDefaultContext()); },
+        "Invalid EOL type.");
+}
+
+namespace {
+
+// Leaves its element open, as a faulty writer user would.
+class Unclosed final : public CXmlObjectBase
+{
+public:
+    CXmlObjectBase *GetBase() override { return this; }
+    std::string GetTargetNamespace() const override { return ""; }
+    std::string GetNamespace() const override { return ""; }
+
+protected:
+    void ToXml_Int(CXmlWriter *writer, bool, const char *, const CSerializationContext &, bool) const override
+    {
+        writer->StartElement("open", "");
+    }
+    CXmlElement *FromXml_Int(CXmlElement *, CXmlElement *firstChild, const CSerializationContext &, bool) override
+    {
+        return firstChild;
+    }
+};
+
+// The smallest real collection: its events can be fired by hand.
+class Events final : public CXmlCollectionBase
+{
+public:
+    Events() : CXmlCollectionBase("event", "urn:e", 0, -1) {}
+    int GetCount() const override { return 0; }
+    void Clear() override {}
+    void Remove(int index) override
+    {
+        FireOnCollectionRemove(index);
+        FireOnCollectionRemoveComplete(index);
+    }
+    using CXmlCollectionBase::FireOnCollectionAdd;
+    using CXmlCollectionBase::FireOnCollectionAddComplete;
+    using CXmlCollectionBase::FireOnCollectionChange;
+
+protected:
+    void ToXml_Int(CXmlWriter *, bool, const char *, const CSerializationContext &, bool) const override {}
+    CXmlElement *FromXml_Int(CXmlElement *, CXmlElement *firstChild, const CSerializationContext &, bool) override
+    {
+        return firstChild;
+    }
+};
+
+// Records each event as "type:payload", the payload being "null", "item" for the
+// added item, or the index an int payload held during the call.
+class Recorder : public IEventSink
+{
+public:
+    explicit Recorder(const void *item) : m_item(item) {}
+    void OnEvent(CXmlObjectBase *eventSource, MsgType type, void *data) override
+    {
+        source = eventSource;
+        std::string payload = "null";
+        if (data == m_item)
+            payload = "item";
+        else if (data)
+            payload = std::to_string(*static_cast<int *>(data));
+        events.push_back(std::to_string(type) + ":" + payload);
+    }
+    CXmlObjectBase *source = nullptr;
+    std::vector<std::string> events;
+
+private:
+    const void *m_item;
+};
+
+} // namespace
+
+TEST(ObjectToXml, ElementLeftOpenFailsAtTheEnd)
+{
+    CSmartPtr<Unclosed> object = new Unclosed;
+    ExpectFailure<CVxException>([&] { object->ToXml(); }, "An Element has not been closed.");
+}
+
+TEST(ObjectToXml, CollectionIsNoTopLevelObject)
+{
+    CSmartPtr<Events> collection = new Events;
+    ExpectFailure<CVxException>([&] { collection->ToXml(); },
+                                "CXmlCollectionBase::GetTargetNamespace Should not be used from within a "
+                                "Collection (program logic error)");
+}
+
+TEST(CollectionEvents, EachEventCarriesItsTypeAndPayload)
+{
+    CSmartPtr<Events> collection = new Events;
+    int item = 0;
+    Recorder recorder(&item);
+    collection->AddEventListener(&recorder);
+    collection->FireOnCollectionChange();
+    collection->FireOnCollectionAdd(&item);
+    collection->FireOnCollectionAddComplete(&item);
+    collection->Remove(5);
+    collection->Remove(-1); // no index: no pointer
+    EXPECT_EQ(recorder.events,
+              (std::vector<std::string>{"0:null", "1:item", "2:item", "3:5", "4:5", "3:null", "4:null"}));
+    EXPECT_EQ(recorder.source, static_cast<CXmlObjectBase *>(collection));
+}

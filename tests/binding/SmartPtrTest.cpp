@@ -1,0 +1,88 @@
+#include <gtest/gtest.h>
+
+#include "SmartPtr.h"
+#include "TreeObject.h"
+
+using VxTest::CTreeObject;
+
+TEST(ReferenceCount, ObjectsStartAtZeroAndDieWhenReleasedToZero)
+{
+    bool destroyed = false;
+    auto *object = new CTreeObject("a");
+    object->WatchDestruction(&destroyed);
+    EXPECT_EQ(object->AddRef(), 1);
+    EXPECT_EQ(object->AddRef(), 2);
+    EXPECT_EQ(object->Release(), 1);
+    EXPECT_FALSE(destroyed);
+    EXPECT_EQ(object->Release(), 0);
+    EXPECT_TRUE(destroyed);
+}
+
+TEST(ReferenceCount, CopiesTakeOverTheCountOfTheirSource)
+{
+    auto *source = new CTreeObject("a");
+    source->AddRef();
+    source->AddRef();
+    source->AddRef();
+    auto *copy = new CTreeObject(*source);
+    EXPECT_EQ(copy->AddRef(), 4);
+
+    auto *target = new CTreeObject("b");
+    target->AddRef();
+    *target = *source; // assignment overwrites the target's count
+    EXPECT_EQ(target->AddRef(), 4);
+
+    for (CTreeObject *object : {source, copy, target}) {
+        bool destroyed = false;
+        object->WatchDestruction(&destroyed);
+        while (!destroyed)
+            object->Release();
+    }
+}
+
+TEST(SmartPtr, HoldsOneReferenceForAsLongAsItPointsAtTheObject)
+{
+    bool destroyed = false;
+    CTreeObject *object = new CTreeObject("a");
+    object->WatchDestruction(&destroyed);
+    {
+        CSmartPtr<CTreeObject> first = object;
+        CSmartPtr<CTreeObject> second(first);
+        EXPECT_EQ(object->AddRef(), 3);
+        object->Release();
+        first = nullptr;
+        EXPECT_FALSE(destroyed);
+        EXPECT_TRUE(first == nullptr);
+        EXPECT_TRUE(second == object);
+        EXPECT_EQ(second->GetTargetNamespace(), "");
+        EXPECT_EQ(&*second, object);
+    }
+    EXPECT_TRUE(destroyed);
+}
+
+TEST(SmartPtr, SelfAssignmentAndReassignmentKeepCountsRight)
+{
+    bool firstDestroyed = false;
+    bool secondDestroyed = false;
+    CSmartPtr<CTreeObject> pointer = new CTreeObject("a");
+    pointer->WatchDestruction(&firstDestroyed);
+    CTreeObject *raw = pointer;
+
+    // The only reference: a release before the new reference would destroy the object.
+    pointer = raw;
+    CSmartPtr<CTreeObject> &alias = pointer;
+    pointer = alias;
+    EXPECT_FALSE(firstDestroyed);
+    EXPECT_EQ(pointer->AddRef(), 2);
+    pointer->Release();
+
+    CSmartPtr<CTreeObject> other = new CTreeObject("b");
+    other->WatchDestruction(&secondDestroyed);
+    pointer = other;
+    EXPECT_TRUE(firstDestroyed);
+    EXPECT_TRUE(pointer != raw);
+    other = CSmartPtr<CTreeObject>();
+    EXPECT_FALSE(secondDestroyed);
+    pointer = nullptr;
+    EXPECT_TRUE(secondDestroyed);
+}

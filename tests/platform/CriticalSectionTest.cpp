@@ -1,0 +1,58 @@
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <chrono>
+#include <mutex>
+#include <thread>
+
+#include "CriticalSection.h"
+
+namespace {
+
+// True when another thread manages to enter the lock within a short wait.
+bool OtherThreadGetsIn(CVXCriticalSection &lock)
+{
+    std::atomic<bool> entered{false};
+    std::thread other([&] {
+        lock.Enter();
+        entered = true;
+        lock.Leave();
+    });
+    for (int i = 0; i < 200 && !entered; ++i)
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    const bool result = entered;
+    if (!result) {
+        // Let the waiting thread finish before the caller leaves.
+        lock.Leave();
+        other.join();
+        lock.Enter();
+    } else {
+        other.join();
+    }
+    return result;
+}
+
+} // namespace
+
+TEST(CriticalSection, OwnerMayEnterAgainAndOthersWait)
+{
+    CVXCriticalSection lock;
+    lock.Enter();
+    lock.Enter();
+    lock.Leave();
+    EXPECT_FALSE(OtherThreadGetsIn(lock)); // still held once
+    lock.Leave();
+    EXPECT_TRUE(OtherThreadGetsIn(lock));
+}
+
+TEST(CriticalSection, CopyIsALockOfItsOwn)
+{
+    CVXCriticalSection source;
+    std::lock_guard<CVXCriticalSection> held(source);
+    CVXCriticalSection copy(source);
+    EXPECT_TRUE(OtherThreadGetsIn(copy));
+    CVXCriticalSection assigned;
+    assigned = source;
+    EXPECT_TRUE(OtherThreadGetsIn(assigned));
+    EXPECT_FALSE(OtherThreadGetsIn(source));
+}

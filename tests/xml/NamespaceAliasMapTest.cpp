@@ -1,0 +1,66 @@
+#include <gtest/gtest.h>
+
+#include "Exceptions.h"
+#include "NamespaceAliasMap.h"
+#include "TestSupport.h"
+
+using namespace VxXmlLib16;
+
+TEST(NamespaceAliasMap, OneAliasPerUriInUriOrder)
+{
+    CNamespaceAliasMap map;
+    map.Add("x", "b");
+    map.Add("y", "a");
+    map.Add("z", "b"); // replaces
+    EXPECT_EQ(map.GetNamespaceCount(), 2);
+    EXPECT_EQ(map.GetNamespaceAt(0), "a");
+    EXPECT_EQ(map.GetNamespaceAt(1), "b");
+    EXPECT_EQ(map.GetAliasFromNamespace("b"), "z");
+    EXPECT_FALSE(map.DoesAliasExist("x"));
+    EXPECT_TRUE(map.DoesAliasExist("z"));
+
+    map.RemoveNamespace("unknown");
+    EXPECT_EQ(map.GetNamespaceCount(), 2);
+    map.RemoveNamespace("a");
+    EXPECT_EQ(map.GetNamespaceCount(), 1);
+    EXPECT_FALSE(map.DoesNamespaceExist("a"));
+}
+
+TEST(NamespaceAliasMap, SharedAliasResolvesToTheSmallestUri)
+{
+    CNamespaceAliasMap map;
+    map.Add("p", "urn:z");
+    map.Add("p", "urn:m");
+    EXPECT_EQ(map.GetNamespaceCount(), 2);
+    EXPECT_EQ(map.GetNamespaceFromAlias("p"), "urn:m");
+    VxTest::ExpectFailure<CVxException>([&] { map.GetNamespaceFromAlias("q"); },
+                                        "Namespace alias [q] not found");
+}
+
+TEST(NamespaceAliasMap, IndexingLookupEntersUnknownUris)
+{
+    CNamespaceAliasMap map;
+    EXPECT_EQ(map.FindAlias("urn:new"), "");
+    EXPECT_EQ(map.GetNamespaceCount(), 0); // the constant lookup never inserts
+
+    EXPECT_EQ(map.GetAliasFromNamespace("urn:new"), "");
+    EXPECT_EQ(map.GetNamespaceCount(), 1);
+    EXPECT_TRUE(map.DoesNamespaceExist("urn:new"));
+    EXPECT_TRUE(map.DoesAliasExist(""));
+}
+
+TEST(NamespaceAliasMap, BadArgumentsFailCleanly)
+{
+    CNamespaceAliasMap map;
+    map.Add("a", "urn:a");
+    for (int index : {-1, 1, 1000}) {
+        VxTest::ExpectFailure<CVxInvalidParamException>([&] { map.GetNamespaceAt(index); },
+                                                         FormatString("Namespace index [%d] out of range", index));
+    }
+    // A null name reads as the empty string.
+    map.Add(nullptr, nullptr);
+    EXPECT_TRUE(map.DoesNamespaceExist(""));
+    EXPECT_TRUE(map.DoesAliasExist(nullptr));
+    EXPECT_EQ(map.GetNamespaceFromAlias(nullptr), "");
+    EXPECT_THROW(map.GetNamespaceFromAlias("missing"), CVxException);
+}

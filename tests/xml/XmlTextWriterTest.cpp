@@ -1,0 +1,261 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <utility>
+
+#include "Exceptions.h"
+#include "TestSupport.h"
+#include "TextStream.h"
+#include "XmlTextWriter.h"
+
+using namespace VxXmlLib16;
+using VxTest::ExpectFailure;
+
+namespace {
+
+const std::string Xsi = "http://www.w3.org/2001/XMLSchema-instance";
+const std::string XmlNs = "http://www.w3.org/XML/1998/namespace";
+
+class XmlTextWriterTest : public ::testing::Test
+{
+protected:
+    XmlTextWriterTest() { writer.StartDocument(); }
+
+    std::string Text() { return std::string(stream.GetText(), stream.GetLength()); }
+
+    // An empty element.
+    void Leaf(const std::string &name, const std::string &uri = std::string())
+    {
+        writer.StartElement(name, uri);
+        writer.EndElement();
+    }
+
+    CTextStream stream;
+    CXmlTextWriter writer{&stream};
+};
+
+} // namespace
+
+TEST_F(XmlTextWriterTest, EscapingDiffersBetweenElementAndAttributeText)
+{
+    const std::string raw = "a\r\nb\"c'd\te&f<g>h\xC3\xA9\ri";
+    writer.StartElement("r", "");
+    writer.WriteAttribute("v", "", raw, ItemType_string);
+    writer.WriteElementValue(raw, ItemType_string, false);
+    writer.WriteElementValue(std::string("|x\0y", 4), ItemType_string, false); // a zero byte ends the text
+    writer.EndElement();
+    EXPECT_EQ(Text(), "<r v=\"a&#xA;b&quot;c'd\te&amp;f&lt;g&gt;h\xC3\xA9i\">"
+                      "a\nb\"c'd\te&amp;f&lt;g&gt;h\xC3\xA9i|x</r>\n");
+}
+
+TEST_F(XmlTextWriterTest, CDataPrefixIsWrittenVerbatim)
+{
+    writer.SetFormatted(false);
+    writer.StartElement("r", "");
+    Leaf("e");
+    writer.StartElement("a", "");
+    writer.WriteElementValue("<![CDATA[x<y", ItemType_string, false); // no terminator: stays so
+    writer.EndElement();
+    writer.StartElement("b", "");
+    writer.WriteElementValue("<![CDATA x<y", ItemType_string, false);
+    writer.EndElement();
+    writer.EndElement();
+    EXPECT_EQ(Text(), "<r><e/><a><![CDATA[x<y</a><b>&lt;![CDATA x&lt;y</b></r>");
+}
+
+TEST_F(XmlTextWriterTest, EmptyTextAndUnwrittenDefaultsLeaveTheElementEmpty)
+{
+    writer.SetFormatted(false);
+    writer.StartElement("r", "");
+    writer.StartElement("a", "");
+    writer.WriteElementValue("", ItemType_string, false);
+    writer.WriteAttribute("still", "", "open", ItemType_string); // the start tag stayed open
+    writer.EndElement();
+    writer.StartElement("b", "");
+    writer.WriteElementValue("3", ItemType_i4, true);
+    writer.EndElement();
+    writer.SetWriteDefaultValues(true);
+    writer.StartElement("c", "");
+    writer.WriteElementValue("3", ItemType_i4, true);
+    writer.WriteElementValue("4", ItemType_i4, false); // several values simply follow
+    writer.EndElement();
+    writer.EndElement();
+    EXPECT_EQ(Text(), "<r><a still=\"open\"/><b/><c>34</c></r>");
+}
+
+TEST_F(XmlTextWriterTest, RootDeclaresTheTableInUriOrderButNeverTheXmlNamespace)
+{
+    writer.AddNamespace("z", "urn:b");
+    writer.AddNamespace("y", "urn:a");
+    writer.AddNamespace("x2", XmlNs + "-extra"); // a prefix match is enough to be skipped
+    writer.AddNamespace("", "urn:empty");        // an empty alias is no alias
+    writer.SetDefaultNamespace("urn:d");
+    writer.StartElement("doc", "urn:d");
+    writer.WriteAttribute("lang", XmlNs, "en", ItemType_string);
+    Leaf("e", "urn:empty");
+    writer.EndElement();
+    EXPECT_EQ(Text(), "<doc xmlns=\"urn:d\" xmlns:y=\"urn:a\" xmlns:z=\"urn:b\" xml:lang=\"en\">\n"
+                      "\t<AA:e xmlns:AA=\"urn:empty\"/>\n</doc>\n");
+}
+
+TEST_F(XmlTextWriterTest, AttributeInANamespaceAlwaysGetsAPrefix)
+{
+    writer.SetFormatted(false);
+    writer.AddNamespace("d", "urn:d");
+    writer.SetDefaultNamespace("urn:d");
+    writer.StartElement("doc", "urn:d");
+    writer.WriteAttribute("a", "urn:d", "1", ItemType_string);
+    writer.WriteAttribute("b", "urn:u", "2", ItemType_string); // declared in front of itself
+    writer.WriteAttribute("c", "urn:u", "3", ItemType_string); // and visible to the next one
+    writer.WriteAttribute("d", "", "4", ItemType_string);
+    Leaf("child", "urn:u");
+    writer.EndElement();
+    EXPECT_EQ(Text(), "<doc xmlns=\"urn:d\" xmlns:d=\"urn:d\" d:a=\"1\" xmlns:AA=\"urn:u\" AA:b=\"2\" "
+                      "AA:c=\"3\" d=\"4\"><AA:child/></doc>");
+}
+
+TEST_F(XmlTextWriterTest, TypeAndNilAttributes)
+{
+    writer.SetFormatted(false);
+    writer.StartElement("doc", "");
+    writer.StartElement("a", "");
+    writer.WriteTypeAttribute("urn:t", "T", ItemType_XmlObject);
+    writer.WriteNilAttribute();
+    writer.EndElement();
+    writer.StartElement("b", "");
+    writer.WriteTypeAttribute("", "Plain", ItemType_XmlObject);
+    writer.EndElement();
+    writer.EndElement();
+    // The declaration made for the type's namespace leaves a double blank behind it.
+    EXPECT_EQ(Text(), "<doc><a xmlns:AA=\"urn:t\"  xmlns:AB=\"" + Xsi + "\" AB:type=\"AA:T\" AB:nil=\"true\"/>"
+                      "<b xmlns:AA=\"" + Xsi + "\" AA:type=\"Plain\"/></doc>");
+}
+
+TEST_F(XmlTextWriterTest, TypeInTheDefaultNamespaceIsUnprefixed)
+{
+    writer.SetFormatted(false);
+    writer.AddNamespace("xsi", Xsi);
+    writer.AddNamespace("t", "urn:t");
+    writer.SetDefaultNamespace("urn:d");
+    writer.StartElement("doc", "urn:d");
+    writer.WriteTypeAttribute("urn:d", "D", ItemType_XmlObject);
+    writer.StartElement("a", "urn:d");
+    writer.WriteTypeAttribute("urn:t", "T", ItemType_XmlObject);
+    writer.EndElement();
+    writer.EndElement();
+    // The instance URI sorts before the URNs.
+    EXPECT_EQ(Text(), "<doc xmlns=\"urn:d\" xmlns:xsi=\"" + Xsi +
+                          "\" xmlns:t=\"urn:t\" xsi:type=\"D\"><a xsi:type=\"t:T\"/></doc>");
+}
+
+TEST_F(XmlTextWriterTest, AttributesOnlyWhileTheStartTagIsOpen)
+{
+    const std::string message = "Attributes must be added before elements";
+    auto expectRefused = [&](const char *when) {
+        SCOPED_TRACE(when);
+        ExpectFailure<CVxException>([&] { writer.WriteAttribute("a", "", "1", ItemType_string); }, message);
+        ExpectFailure<CVxException>([&] { writer.WriteTypeAttribute("", "T", ItemType_XmlObject); }, message);
+        ExpectFailure<CVxException>([&] { writer.WriteNilAttribute(); }, message);
+    };
+    expectRefused("nothing open");
+    writer.StartElement("r", "");
+    Leaf("child");
+    expectRefused("after a child");
+    writer.StartElement("t", "");
+    writer.WriteElementValue("text", ItemType_string, false);
+    expectRefused("after text");
+}
+
+TEST_F(XmlTextWriterTest, UnbalancedElementsFail)
+{
+    writer.StartElement("r", "");
+    writer.WriteElementValue("partial", ItemType_string, false);
+    ExpectFailure<CVxException>([&] { writer.EndDocument(); }, "An Element has not been closed.");
+    EXPECT_EQ(Text(), "<r>partial"); // what was written stays
+
+    writer.EndElement();
+    ExpectFailure<CVxException>([&] { writer.EndElement(); }, "No element is open.");
+}
+
+TEST_F(XmlTextWriterTest, InvalidEolTypeIsRefusedAndTheOldOneKept)
+{
+    writer.SetEOLType(EOLType_CRLF);
+    ExpectFailure<CVxException>([&] { writer.SetEOLType(static_cast<EOLType>(2)); }, "Invalid EOL type.");
+    EXPECT_EQ(writer.GetEOLType(), EOLType_CRLF);
+    Leaf("r");
+    EXPECT_EQ(Text(), "<r/>\r\n");
+}
+
+TEST_F(XmlTextWriterTest, DeclarationNamesTheStreamEncoding)
+{
+    const std::pair<XmlEncoding, const char *> cases[] = {
+        {XmlEncoding_None, "<?xml version=\"1.0\"?>\r\n"},
+        {XmlEncoding_UTF8, "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n"},
+        {XmlEncoding_UTF16, "<?xml version=\"1.0\" encoding=\"UTF-16\"?>\r\n"},
+        {XmlEncoding_UTF16NoDecl, "<?xml version=\"1.0\"?>\r\n"},
+    };
+    for (const auto &[encoding, expected] : cases) {
+        CTextStream encoded(encoding);
+        CXmlTextWriter declaring(&encoded);
+        declaring.SetFormatted(false); // the line end does not depend on the layout
+        declaring.SetEOLType(EOLType_CRLF);
+        declaring.WriteDeclaration();
+        EXPECT_EQ(std::string(encoded.GetText()), expected);
+    }
+}
+
+TEST_F(XmlTextWriterTest, CommentInstructionAndInlineSchema)
+{
+    writer.SetFormatted(false);
+    writer.WriteProcessingInstruction("<?pi a<b?>");
+    writer.WriteComment("x<y\n--");
+    writer.StartElement("doc", "");
+    writer.WriteInlineSchema("<s/>");
+    writer.EndElement();
+    EXPECT_EQ(Text(), "<?pi a<b?>\n\n<!--x&lt;y\n---->\n<doc \n<s/>\n/>");
+}
+
+TEST_F(XmlTextWriterTest, RawTextIsPastedAfterClosingTheStartTag)
+{
+    writer.StartElement("doc", "");
+    writer.CloseStartTag();
+    writer.WriteRawText("<x a=\"&amp;\"/>");
+    writer.EndElement();
+    EXPECT_EQ(Text(), "<doc>\n<x a=\"&amp;\"/>\n</doc>\n");
+}
+
+TEST(MakeUniqueAlias, FirstTwoLetterAliasNotTakenAsAValue)
+{
+    CXmlWriter::AliasTable table{{"AA", "x"}, {"urn:1", "AB"}};
+    EXPECT_EQ(CXmlWriter::MakeUniqueAlias(table), "AA");
+    table["urn:0"] = "AA";
+    EXPECT_EQ(CXmlWriter::MakeUniqueAlias(table), "AC");
+    for (char c = 'A'; c <= 'Z'; ++c)
+        table[std::string("urn:A") + c] = std::string("A") + c;
+    EXPECT_EQ(CXmlWriter::MakeUniqueAlias(table), "BA");
+}
+
+namespace {
+
+class CountingStream : public CTextStream
+{
+public:
+    void Flush() override { ++flushes; }
+    int flushes = 0;
+};
+
+} // namespace
+
+TEST(XmlTextWriterFlush, StreamIsFlushedOnceItHolds4096Bytes)
+{
+    CountingStream stream;
+    CXmlTextWriter writer(&stream);
+    writer.StartDocument();
+    writer.StartElement("r", "");
+    writer.WriteElementValue(std::string(4088, 'x'), ItemType_string, false);
+    EXPECT_EQ(stream.GetLength(), 4091u);
+    EXPECT_EQ(stream.flushes, 0);
+    writer.EndElement(); // "</r>\n" reaches 4096
+    EXPECT_EQ(stream.GetLength(), 4096u);
+    EXPECT_EQ(stream.flushes, 1);
+}
