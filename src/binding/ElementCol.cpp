@@ -78,7 +78,8 @@ CXmlElement *CElementCol::ReadElements(CXmlElement *parent, CXmlElement *cursor,
         CXmlElement *next = CXmlObjectBase::FromXml_Int(element, parent, cursor, context);
         if (next == cursor)
             break;
-        Add(element);
+        // Its namespace has passed the test that let the loop in.
+        Append(element);
         cursor = next;
     }
     return cursor;
