@@ -37,3 +37,6 @@
 #include "BigInteger.h"
 #include "Decimal.h"
 #include "PrimitiveRestrictions.h"
+#include "XmlDocument.h"
+#include "Wildcards.h"
+#include "ClassFactory.h"

@@ -1,0 +1,367 @@
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "BinaryData.h"
+#include "CanonicalXml.h"
+#include "ExceptionAssert.h"
+#include "OrdersDocument.h"
+#include "SerializationContext.h"
+#include "Wildcards.h"
+#include "XmlDocument.h"
+
+using namespace VxXmlLib16;
+using VxTest::CanonicalXml;
+using VxTest::Throws;
+
+namespace {
+
+// Opens the protected reading operations, as the metadata of generated classes uses them.
+class OpenElement : public CElement
+{
+public:
+    using CElement::CElement;
+    using CElement::CopyXmlElement;
+    using CElement::FromXml_Int;
+};
+
+class OpenElementCol : public CElementCol
+{
+public:
+    using CElementCol::CElementCol;
+    using CElementCol::FromXml_Int;
+    using CElementCol::FromXmlLockElementName_Int;
+};
+
+class OpenAttributeCol : public CAttributeCol
+{
+public:
+    using CAttributeCol::CAttributeCol;
+    using CAttributeCol::FromXml_Int;
+};
+
+class OpenAttribute : public CAttribute
+{
+public:
+    using CAttribute::CAttribute;
+    using CAttribute::FromXml_Int;
+};
+
+// An object whose stream form is its text, recording how it was asked for it.
+class StreamedElement : public CElement
+{
+public:
+    using CElement::CElement;
+    CBinaryData ToXmlStream(bool docHeader, bool formatted, XmlEncoding encoding, EOLType eol,
+                            const CSerializationContext &context, CompressionType compression) const override
+    {
+        request = FormatString("%d %d %d %d %d [%s]", docHeader, formatted, encoding, eol, compression,
+                               context.GetDefaultNamespaceURI().c_str());
+        return CBinaryData(ToXml(docHeader, formatted, eol, context).c_str());
+    }
+    mutable std::string request;
+};
+
+std::string RoundTrip(const std::string &document, bool formatted)
+{
+    CSmartPtr<CElement> element = new CElement("placeholder");
+    element->FromXml(document.c_str());
+    return element->ToXml(false, formatted);
+}
+
+// SetNamespaceRestrictions throws a pointer; this owns what arrives.
+template <class Action>
+std::unique_ptr<CVxInvalidNamespaceException> PointerThrown(Action &&action)
+{
+    try {
+        action();
+    } catch (CVxInvalidNamespaceException *thrown) {
+        return std::unique_ptr<CVxInvalidNamespaceException>(thrown);
+    }
+    return nullptr;
+}
+
+const char *const kNamespaceHeavy =
+    "<p:root xmlns:p='urn:p' xmlns='urn:d' xmlns:q='urn:q' q:a='1' b='2' xml:lang='en' nl='x&#10;y'>"
+    "<child q:c='3'><p:x>t</p:x><y xmlns=''>local</y><same/></child>"
+    "<q:z xmlns:q='urn:q2' q:w='4' xmlns:r='urn:q'><r:z r:w='5'/></q:z>"
+    "<e xmlns:p='urn:p3'><p:deep p:at='v' xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance'"
+    " xsi:type='p:T'>&lt;&amp;&gt;\"' \xC3\xA9</p:deep><p:deep/></e>"
+    "<empty></empty>"
+    "</p:root>";
+
+} // namespace
+
+TEST(Wildcards, ConstructionRefusesWhatTheRulesRefuse)
+{
+    const auto element = [](const char *name, const char *uri, const char *rule, const char *target) {
+        return [=] { CSmartPtr<CElement> e = new CElement(name, uri, rule, target); };
+    };
+    const struct {
+        std::function<void()> action;
+        const char *message;
+    } cases[] = {
+        {[] { CSmartPtr<CElement> e = new CElement("a", "##local"); }, "Invalid Namespace [##local]."},
+        {element(nullptr, "", "##any", ""), "Element Name must have a value"},
+        {element("a", nullptr, "##any", ""), "Element Namespace must have a value"},
+        {element("a", "", nullptr, ""), "Namespace Restriction must have a value"},
+        {element("a", "", "##any", nullptr), "Target Namespace must have a value"},
+        {element("a", "urn:b", "##other", "urn:b"),
+         "Invalid namespace [urn:b]. The namespace must be one of [##other] where the target namespace is [urn:b]."},
+        {[] { CSmartPtr<CElementCol> c = new CElementCol("urn:a", "##local", "urn:t", 0, -1); },
+         "Invalid namespace [urn:a]. The namespace must be one of [##local] where the target namespace is [urn:t]."},
+    };
+    for (const auto &refusal : cases)
+        EXPECT_TRUE(Throws<CVxInvalidNamespaceException>(refusal.action, refusal.message));
+}
+
+TEST(Wildcards, ElementCollectionKeepsAnyRuleAndTakesKeywordAsDefaultNamespace)
+{
+    CSmartPtr<CElementCol> other = new CElementCol("", "##other", "urn:t", 1, 1);
+    EXPECT_EQ(other->Add("x")->GetNamespace(), "##other");
+    // The stored rule is "##any": the target namespace itself passes.
+    EXPECT_EQ(other->Add("y", "urn:t")->GetNamespace(), "urn:t");
+    // And the limits given were not kept: three items write without complaint.
+    other->Add("z", "urn:u");
+    EXPECT_EQ(other->GetCount(), 3);
+    CSerializationContext context;
+    EXPECT_NO_THROW(other->ValidateCount(context));
+
+    CSmartPtr<CElementCol> plain = new CElementCol("", "urn:x", "", 0, -1);
+    EXPECT_TRUE(Throws<CVxInvalidStateException>([&] { plain->Add("x"); },
+                                                 "A Namespace has not been set for this Collection"));
+    EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { plain->Add(static_cast<CElement *>(nullptr)); },
+                                                 "A NULL item can not be added to the collection"));
+    EXPECT_EQ(plain->GetCount(), 0);
+}
+
+TEST(Wildcards, AttributeCollectionNamespaceComesFromAUriRule)
+{
+    CSmartPtr<CAttributeCol> uri = new CAttributeCol("", "urn:a", "");
+    EXPECT_EQ(uri->GetNamespace(), "urn:a");
+    EXPECT_EQ(uri->Add("x")->GetNamespace(), "urn:a");
+    EXPECT_EQ(uri->Add("e", "v", "")->GetNamespace(), "");
+    EXPECT_TRUE(Throws<CVxInvalidNamespaceException>(
+        [&] { uri->Add("y", "v", "urn:c"); },
+        "Invalid namespace [urn:c]. The namespace must be one of [urn:a] where the target namespace is []."));
+    CSmartPtr<CAttribute> refused = new CAttribute("z", "v", "urn:c");
+    EXPECT_THROW(uri->Add(refused), CVxInvalidNamespaceException);
+    EXPECT_EQ(uri->GetCount(), 2);
+
+    // A list takes its first URI, which the list itself then refuses: a URI token
+    // compares with the whole rule.
+    CSmartPtr<CAttributeCol> list = new CAttributeCol("", "urn:a urn:b", "");
+    EXPECT_EQ(list->GetNamespace(), "urn:a");
+    EXPECT_THROW(list->Add("x"), CVxInvalidNamespaceException);
+    EXPECT_EQ(CSmartPtr<CAttributeCol>(new CAttributeCol("", "##other", ""))->GetNamespace(), "");
+}
+
+TEST(Wildcards, WritesNameAttributesChildrenThenText)
+{
+    CSmartPtr<CElement> element = new CElement("a");
+    element->SetText("t&x");
+    element->GetAttributes()->Add("x", "1");
+    element->GetAttributes()->Add("y", "2", "urn:n");
+    element->GetChildElements()->Add(new CElement("b", "urn:n"));
+    EXPECT_EQ(element->ToXml(false, false), "<a x=\"1\" xmlns:AA=\"urn:n\" AA:y=\"2\"><AA:b/>t&amp;x</a>");
+    EXPECT_EQ(CSmartPtr<CElement>(new CElement("a"))->ToXml(false, false), "<a/>");
+}
+
+TEST(Wildcards, ReadingTakesTheTreeAndReplacesEarlierContent)
+{
+    CSmartPtr<CElement> element = new CElement("old");
+    element->GetAttributes()->Add("stale", "1");
+    element->GetChildElements()->Add(new CElement("stale"));
+    element->FromXml("<r xmlns='urn:r' a='1'><c xmlns='urn:c'>x</c><d/>text</r>");
+
+    EXPECT_EQ(element->GetName() + element->GetNamespace() + element->GetText(), "rurn:rtext");
+    EXPECT_EQ(element->GetAttributes()->GetCount(), 1);
+    CSmartPtr<CElementCol> children = element->GetChildElements();
+    ASSERT_EQ(children->GetCount(), 2);
+    EXPECT_EQ(children->Item(0)->GetNamespace() + children->Item(0)->GetText(), "urn:cx");
+    EXPECT_EQ(children->Item(1)->GetNamespace(), "urn:r");
+}
+
+TEST(Wildcards, ReadingRefusals)
+{
+    CXmlDocument document;
+    document.LoadXml("<r xmlns:n='urn:n'><a n:x='1' y='2'/><a/><b/></r>");
+    CXmlElement *root = document.GetDocumentElement();
+    CXmlElement *first = root->GetFirstElement();
+    const CSerializationContext &context = CSerializationContext::GetDefaultContext();
+
+    // An attribute the rule refuses fails the element with its path.
+    CSmartPtr<OpenAttributeCol> attributes = new OpenAttributeCol("", "##local", "");
+    EXPECT_TRUE(Throws<CVxInvalidNamespaceException>(
+        [&] { attributes->FromXml_Int(first, nullptr, context, false); },
+        "Invalid Attribute [x]. The attributes namespace is Inappropriate.\nPath: /r/a[1]"));
+    CSmartPtr<OpenAttributeCol> any = new OpenAttributeCol("", "##any", "");
+    EXPECT_EQ(any->FromXml_Int(first, first, context, false), first);
+    EXPECT_EQ(any->GetCount(), 2);
+    CSmartPtr<OpenAttribute> attribute = new OpenAttribute("x", "", "");
+    EXPECT_TRUE(Throws<CVxException>([&] { attribute->FromXml_Int(first, nullptr, context, false); },
+                                     "This should be done by the collection"));
+
+    // An element whose namespace its rule refuses is not taken and stays as it was.
+    CSmartPtr<OpenElement> local = new OpenElement("kept", "urn:k", "##other", "");
+    EXPECT_EQ(local->FromXml_Int(root, first, context, false), first);
+    EXPECT_EQ(local->GetName(), "kept");
+
+    // A named wildcard takes its name only.
+    CSmartPtr<OpenElementCol> named = new OpenElementCol("", "##any", "", 0, -1);
+    CXmlElement *rest = named->FromXmlLockElementName_Int("a", "", root, first, context);
+    EXPECT_EQ(named->GetCount(), 2);
+    ASSERT_NE(rest, nullptr);
+    EXPECT_EQ(rest->GetLocalName(), "b");
+    EXPECT_EQ(named->FromXml_Int(root, rest, context, false), nullptr);
+    EXPECT_EQ(named->GetCount(), 3);
+}
+
+TEST(Wildcards, RoundTripKeepsElementsAttributesNamespacesAndText)
+{
+    const std::string documents[] = {kNamespaceHeavy, VxTest::OrdersDocument(40, 7, false),
+                                     VxTest::OrdersDocument(15, 11, true)};
+    for (const std::string &document : documents) {
+        const std::string expected = CanonicalXml(document);
+        ASSERT_EQ(expected.find("error"), std::string::npos) << expected;
+        EXPECT_EQ(CanonicalXml(RoundTrip(document, false)), expected);
+        EXPECT_EQ(CanonicalXml(RoundTrip(document, true)), expected);
+    }
+}
+
+TEST(Wildcards, FromXmlElementReadsTheRenderedElement)
+{
+    CSmartPtr<CElement> source = new CElement("s");
+    source->FromXml(kNamespaceHeavy);
+    CSmartPtr<CElement> target = new CElement("t");
+    target->FromXmlElement(source.operator->());
+    EXPECT_EQ(CanonicalXml(target->ToXml(false, false)), CanonicalXml(kNamespaceHeavy));
+}
+
+TEST(Wildcards, CloneIsIndependentAndEqual)
+{
+    CSmartPtr<CElement> original = new CElement("o");
+    original->FromXml(kNamespaceHeavy);
+    CSmartPtr<CElement> copy = original->Clone();
+    EXPECT_EQ(copy->ToXml(false, false), original->ToXml(false, false));
+
+    copy->GetChildElements()->Item(0)->SetText("changed");
+    copy->GetAttributes()->Item(0)->SetValue("changed");
+    copy->GetChildElements()->Remove(1);
+    EXPECT_EQ(CanonicalXml(original->ToXml(false, false)), CanonicalXml(kNamespaceHeavy));
+}
+
+TEST(Wildcards, NamespaceRestrictionsThrowAPointerForTheElementsOwnNamespace)
+{
+    CSmartPtr<CElement> element = new CElement("a", "urn:a", "##any", "");
+    element->GetAttributes()->Add("x", "1", "urn:x");
+    element->GetChildElements()->Add("b", "urn:b");
+
+    std::unique_ptr<CVxInvalidNamespaceException> own =
+        PointerThrown([&] { element->SetNamespaceRestrictions("##other", "urn:a"); });
+    ASSERT_TRUE(own);
+    EXPECT_EQ(own->GetMessage(), "The namespace a in the class urn:a is invalid against restriction ##other");
+    EXPECT_EQ(own->GetPath(), "");
+    ASSERT_NE(own->GetInnerException(), nullptr);
+    EXPECT_EQ(typeid(*own->GetInnerException()), typeid(CVxInvalidNamespaceException));
+    EXPECT_EQ(own->GetInnerException()->GetMessage(),
+              "Invalid namespace [urn:a]. The namespace must be one of [##other] where the target namespace is "
+              "[urn:a].");
+
+    // An attribute's namespace is thrown by value, a child's as the child's own pointer.
+    EXPECT_TRUE(Throws<CVxInvalidNamespaceException>(
+        [&] { element->SetNamespaceRestrictions("##other", "urn:x"); },
+        "Invalid namespace [urn:x]. The namespace must be one of [##other] where the target namespace is [urn:x]."));
+    std::unique_ptr<CVxInvalidNamespaceException> child =
+        PointerThrown([&] { element->SetNamespaceRestrictions("##other", "urn:b"); });
+    ASSERT_TRUE(child);
+    EXPECT_EQ(child->GetMessage(), "The namespace b in the class urn:b is invalid against restriction ##other");
+
+    // The rule is only checked: the element still reads any namespace afterwards.
+    EXPECT_NO_THROW(element->SetNamespaceRestrictions("##any", ""));
+    element->FromXml("<z xmlns='urn:z'/>");
+    EXPECT_EQ(element->GetNamespace(), "urn:z");
+}
+
+TEST(Wildcards, ElementWithDefaultNamespaceIsPastedWithItsOwnDeclaration)
+{
+    // Read without namespace processing, the declaration stays an attribute and becomes
+    // the element's default namespace.
+    CSerializationContext noNamespaces;
+    noNamespaces.SetSchemaType(SchemaType_NoNamespaces);
+    CXmlDocument document(noNamespaces);
+    document.LoadXml("<r xmlns='urn:d' k='v'><c>t</c></r>");
+    CSmartPtr<OpenElement> pasted = new OpenElement("r");
+    pasted->CopyXmlElement(document.GetDocumentElement());
+    EXPECT_EQ(pasted->GetAttributes()->GetCount(), 2);
+
+    CSmartPtr<CElement> parent = new CElement("p", "urn:p");
+    parent->GetChildElements()->Add(pasted.operator->());
+    parent->GetChildElements()->Add("after", "urn:p");
+    EXPECT_EQ(parent->ToXml(false, false),
+              "<AA:p xmlns:AA=\"urn:p\"><r xmlns=\"urn:d\"><c>t</c></r><AA:after/></AA:p>");
+    EXPECT_EQ(CanonicalXml(parent->ToXml(true, true)),
+              "0 urn:p|p\n1 urn:d|r\n2 urn:d|c [t]\n1 urn:p|after []\n");
+    // A clone keeps the default namespace.
+    EXPECT_EQ(pasted->Clone()->ToXml(false, false), "<r xmlns=\"urn:d\"><c>t</c></r>");
+}
+
+TEST(Wildcards, ElementBuiltFromAnObjectPastesItsSubtree)
+{
+    CSmartPtr<StreamedElement> object = new StreamedElement("r", "urn:d");
+    object->GetChildElements()->Add("c")->SetText("t");
+    object->GetAttributes()->Add("k", "v");
+    CSmartPtr<CElement> built = new CElement(object.operator->(), "urn:d");
+    EXPECT_EQ(object->request, "0 0 1 1 0 [urn:d]");
+    EXPECT_EQ(built->GetName(), "r");
+    EXPECT_EQ(built->GetAttributes()->GetCount(), 1);
+
+    CSmartPtr<CElement> parent = new CElement("p");
+    parent->GetChildElements()->Add(built.operator->());
+    EXPECT_EQ(parent->ToXml(false, false), "<p><r xmlns=\"urn:d\"><c>t</c></r></p>");
+
+    // Without a default namespace the element is an ordinary one.
+    CSmartPtr<CElement> plain = new CElement(object.operator->(), nullptr);
+    EXPECT_EQ(object->request, "0 0 1 1 0 []");
+    EXPECT_EQ(plain->ToXml(false, false), "<AA:r xmlns:AA=\"urn:d\" AA:k=\"v\"><AA:c>t</AA:c></AA:r>");
+    EXPECT_TRUE(Throws<CVxInvalidParamException>([] { CSmartPtr<CElement> e = new CElement(static_cast<CXmlObjectBase *>(nullptr), "urn:d"); },
+                                                 "The object to build the element from is NULL"));
+}
+
+TEST(SerializationContextRootAttributes, CreatedOnceAndSharedByLaterCopies)
+{
+    CSerializationContext context;
+    EXPECT_EQ(context.FindAdditionalRootAttributes(), nullptr);
+    CSmartPtr<CAttributeCol> attributes = context.GetAdditionalRootAttributes();
+    EXPECT_EQ(static_cast<CAttributeCol *>(context.GetAdditionalRootAttributes()), attributes);
+    EXPECT_EQ(context.FindAdditionalRootAttributes(), attributes);
+    EXPECT_EQ(attributes->GetNamespace(), "");
+
+    const CSerializationContext copy(context);
+    attributes->Add("schemaLocation", "urn:x x.xsd", "http://www.w3.org/2001/XMLSchema-instance");
+    EXPECT_EQ(copy.GetAdditionalRootAttributes()->GetCount(), 1);
+    CSerializationContext assigned;
+    assigned = copy;
+    EXPECT_EQ(assigned.FindAdditionalRootAttributes(), attributes);
+}
+
+TEST(Wildcards, DepthOfReadingIsBounded)
+{
+    const auto nested = [](int depth) {
+        std::string text;
+        for (int i = 0; i < depth; ++i)
+            text += "<e>";
+        for (int i = 0; i < depth; ++i)
+            text += "</e>";
+        return text;
+    };
+    CSmartPtr<CElement> element = new CElement("e");
+    element->FromXml(nested(2000).c_str());
+    EXPECT_EQ(CanonicalXml(element->ToXml(false, false)), CanonicalXml(nested(2000)));
+    EXPECT_THROW(element->FromXml(nested(2001).c_str()), CVxValidationException);
+    // A failed read leaves nothing behind that blocks the next one.
+    element->FromXml("<e><e/></e>");
+    EXPECT_EQ(element->ToXml(false, false), "<e><e/></e>");
+}

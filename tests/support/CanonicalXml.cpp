@@ -1,0 +1,82 @@
+#include "CanonicalXml.h"
+
+#include <expat.h>
+
+#include <algorithm>
+#include <vector>
+
+namespace VxTest {
+
+namespace {
+
+struct OpenElement
+{
+    std::string line; // depth, name and attributes
+    std::string text;
+    bool hasChildren = false;
+    std::size_t slot = 0; // where its line goes in the output
+};
+
+struct Canonicalizer
+{
+    std::vector<std::string> lines;
+    std::vector<OpenElement> open;
+
+    static void Start(void *data, const char *name, const char **attributes)
+    {
+        auto *self = static_cast<Canonicalizer *>(data);
+        if (!self->open.empty())
+            self->open.back().hasChildren = true;
+        std::vector<std::string> sorted;
+        for (const char **a = attributes; *a; a += 2)
+            sorted.push_back(std::string(a[0]) + "=\"" + a[1] + "\"");
+        std::sort(sorted.begin(), sorted.end());
+        OpenElement element;
+        element.line = std::to_string(self->open.size()) + " " + name;
+        for (const std::string &attribute : sorted)
+            element.line += " " + attribute;
+        element.slot = self->lines.size();
+        self->lines.emplace_back();
+        self->open.push_back(std::move(element));
+    }
+
+    static void End(void *data, const char *)
+    {
+        auto *self = static_cast<Canonicalizer *>(data);
+        OpenElement &element = self->open.back();
+        const bool layoutOnly = element.text.find_first_not_of(" \t\r\n") == std::string::npos;
+        std::string &line = self->lines[element.slot];
+        line = element.line;
+        if (!(element.hasChildren && layoutOnly))
+            line += " [" + element.text + "]";
+        self->open.pop_back();
+    }
+
+    static void Text(void *data, const char *text, int length)
+    {
+        auto *self = static_cast<Canonicalizer *>(data);
+        if (!self->open.empty())
+            self->open.back().text.append(text, static_cast<std::size_t>(length));
+    }
+};
+
+} // namespace
+
+std::string CanonicalXml(const std::string &text)
+{
+    Canonicalizer canonicalizer;
+    XML_Parser parser = XML_ParserCreateNS(nullptr, '|');
+    XML_SetUserData(parser, &canonicalizer);
+    XML_SetElementHandler(parser, &Canonicalizer::Start, &Canonicalizer::End);
+    XML_SetCharacterDataHandler(parser, &Canonicalizer::Text);
+    const bool ok = XML_Parse(parser, text.data(), static_cast<int>(text.size()), 1) != XML_STATUS_ERROR;
+    std::string result = ok ? std::string() : std::string("error: ") + XML_ErrorString(XML_GetErrorCode(parser));
+    XML_ParserFree(parser);
+    if (!ok)
+        return result;
+    for (const std::string &line : canonicalizer.lines)
+        result += line + "\n";
+    return result;
+}
+
+} // namespace VxTest
