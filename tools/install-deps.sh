@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that building, testing, benchmarking and fuzzing need,
 # only those that are missing (with their recommendations: clang needs its runtime
-# libraries for the fuzzers). Quiet and quick when everything is there already.
+# libraries for the fuzzers; python3 runs the document generator of the tests). Quiet and quick when everything is there already.
 set -euo pipefail
 
 packages=(build-essential cmake ninja-build pkg-config libexpat1-dev libpcre2-dev zlib1g-dev
-          libgtest-dev libgmock-dev libbenchmark-dev clang)
+          libgtest-dev libgmock-dev libbenchmark-dev clang python3)
 
 missing=()
 for package in "${packages[@]}"; do
