@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that building, testing, benchmarking and fuzzing need,
 # only those that are missing (with their recommendations: clang needs its runtime
-# libraries for the fuzzers; python3 runs the document generator of the tests). Quiet and quick when everything is there already.
+# libraries for the fuzzers). python3 runs the tests' document generator. Quiet and
+# quick when everything is there already.
 set -euo pipefail
 
 packages=(build-essential cmake ninja-build pkg-config libexpat1-dev libpcre2-dev zlib1g-dev
