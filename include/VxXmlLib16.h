@@ -32,3 +32,6 @@
 #include "Decimal.h"
 #include "PrimitiveRestrictions.h"
 #include "XmlDocument.h"
+#include "AttributeInfo.h"
+#include "ElementInfo.h"
+#include "XmlGeneratedClass.h"
