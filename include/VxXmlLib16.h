@@ -35,3 +35,6 @@
 #include "AttributeInfo.h"
 #include "ElementInfo.h"
 #include "XmlGeneratedClass.h"
+#include "XmlDocument.h"
+#include "Wildcards.h"
+#include "ClassFactory.h"

@@ -1,0 +1,33 @@
+#include "XmlObjectBase.h"
+
+#include "XmlCollectionBase.h"
+#include "XmlDocument.h"
+
+namespace VxXmlLib16 {
+
+bool CXmlObjectBase::DoesElementNameMatch(const CSerializationContext &context, const CXmlElement *element,
+                                          const char *name, const char *namespaceUri) const
+{
+    if (!element || element->GetLocalName() != (name ? name : ""))
+        return false;
+    // Without namespaces in the document model, or told to ignore them, the name decides.
+    if (context.GetIgnoreNamespaces())
+        return true;
+    return element->GetNamespaceURI() == (namespaceUri ? namespaceUri : "");
+}
+
+void CXmlObjectBase::Choice_Read_Collection(CXmlCollectionBase *collection, CXmlElement *parent,
+                                            CXmlElement *&cursor, std::int32_t &count,
+                                            const CSerializationContext &context)
+{
+    if (count >= 1)
+        return;
+    CXmlElement *next = FromXml_Int(collection, parent, cursor, context);
+    if (next != cursor) {
+        cursor = next;
+        collection->ValidateCount(context);
+        ++count;
+    }
+}
+
+} // namespace VxXmlLib16
