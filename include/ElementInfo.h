@@ -549,6 +549,127 @@ protected:
                         const char *targetNamespace, XmlElementType ownerType) override;
 };
 
+// ---- Wildcard entries -------------------------------------------------------------
+
+// An xs:any child held as a CElement; the name "AnyElement" matches any local name.
+class CUntpdElementInfo : public CElementInfo
+{
+protected:
+    CUntpdElementInfo(const char *name, const char *namespaceUri, int propertyIndex, const char *namespaceRule,
+                      const char *targetNamespace);
+    bool ElementToXml(const VxXmlLib16::CSerializationContext &context, const VxXmlLib16::CXmlGeneratedClass *object,
+                      VxXmlLib16::CXmlWriter *writer) const override;
+    // A fresh wildcard element for the owner's target namespace.
+    CSmartPtr<VxXmlLib16::CXmlObjectBase> CreateWildcard(const char *targetNamespace) const;
+    // Reads the element at the cursor into the wildcard when the name fits; returns
+    // where it stopped, the cursor itself when nothing was taken.
+    VxXmlLib16::CXmlElement *ReadWildcard(const VxXmlLib16::CSerializationContext &context,
+                                          VxXmlLib16::CXmlObjectBase *child, VxXmlLib16::CXmlElement *parent,
+                                          VxXmlLib16::CXmlElement *cursor) const;
+    // Reads a fresh wildcard; on success the property takes it and the cursor moves on.
+    bool ReadNewWildcard(const VxXmlLib16::CSerializationContext &context, VxXmlLib16::CXmlGeneratedClass *object,
+                         VxXmlLib16::CXmlElement *parent, VxXmlLib16::CXmlElement **cursor,
+                         const char *targetNamespace) const;
+
+private:
+    std::string m_namespaceRule;
+    std::string m_targetNamespace;
+};
+
+template <class Base>
+class TUntpd : public Base
+{
+public:
+    TUntpd(const char *name, const char *namespaceUri, int propertyIndex, const char *namespaceRule,
+           const char *targetNamespace)
+        : Base(name, namespaceUri, propertyIndex, namespaceRule, targetNamespace)
+    {
+    }
+};
+
+class CSeqUntpdOpt : public CUntpdElementInfo
+{
+protected:
+    using CUntpdElementInfo::CUntpdElementInfo;
+    bool ElementFromXml(const VxXmlLib16::CSerializationContext &context, VxXmlLib16::CXmlGeneratedClass *object,
+                        VxXmlLib16::CXmlElement *parent, VxXmlLib16::CXmlElement **cursor,
+                        const char *targetNamespace, XmlElementType ownerType) override;
+};
+
+class CSeqUntpdMnd : public TMandatory<CUntpdElementInfo>
+{
+protected:
+    using TMandatory<CUntpdElementInfo>::TMandatory;
+    bool ElementFromXml(const VxXmlLib16::CSerializationContext &context, VxXmlLib16::CXmlGeneratedClass *object,
+                        VxXmlLib16::CXmlElement *parent, VxXmlLib16::CXmlElement **cursor,
+                        const char *targetNamespace, XmlElementType ownerType) override;
+};
+
+// All and choice: a fresh wildcard that says whether it took the element.
+class CMatchUntpdOpt : public CUntpdElementInfo
+{
+protected:
+    using CUntpdElementInfo::CUntpdElementInfo;
+    bool ElementFromXml(const VxXmlLib16::CSerializationContext &context, VxXmlLib16::CXmlGeneratedClass *object,
+                        VxXmlLib16::CXmlElement *parent, VxXmlLib16::CXmlElement **cursor,
+                        const char *targetNamespace, XmlElementType ownerType) override;
+};
+
+class CAllUntpdOpt : public CMatchUntpdOpt
+{
+protected:
+    using CMatchUntpdOpt::CMatchUntpdOpt;
+    bool Validate(const VxXmlLib16::CSerializationContext &context, const VxXmlLib16::CXmlGeneratedClass *object,
+                  bool found, bool ownerIsElement) const override;
+};
+
+class CAllUntpdMnd : public TMandatory<CUntpdElementInfo>
+{
+protected:
+    using TMandatory<CUntpdElementInfo>::TMandatory;
+    bool ElementFromXml(const VxXmlLib16::CSerializationContext &context, VxXmlLib16::CXmlGeneratedClass *object,
+                        VxXmlLib16::CXmlElement *parent, VxXmlLib16::CXmlElement **cursor,
+                        const char *targetNamespace, XmlElementType ownerType) override;
+    bool Validate(const VxXmlLib16::CSerializationContext &context, const VxXmlLib16::CXmlGeneratedClass *object,
+                  bool found, bool ownerIsElement) const override;
+};
+
+// A choice alternative that takes nothing sets its property back to null.
+class CChoiceUntpdOpt : public CMatchUntpdOpt
+{
+protected:
+    using CMatchUntpdOpt::CMatchUntpdOpt;
+    bool ElementFromXml(const VxXmlLib16::CSerializationContext &context, VxXmlLib16::CXmlGeneratedClass *object,
+                        VxXmlLib16::CXmlElement *parent, VxXmlLib16::CXmlElement **cursor,
+                        const char *targetNamespace, XmlElementType ownerType) override;
+};
+
+class CElementInfoSeqUntpdOpt final : public TUntpd<CSeqUntpdOpt>
+{
+public:
+    using TUntpd<CSeqUntpdOpt>::TUntpd;
+};
+class CElementInfoSeqUntpdMnd final : public TUntpd<CSeqUntpdMnd>
+{
+public:
+    using TUntpd<CSeqUntpdMnd>::TUntpd;
+};
+class CElementInfoAllUntpdOpt final : public TUntpd<CAllUntpdOpt>
+{
+public:
+    using TUntpd<CAllUntpdOpt>::TUntpd;
+};
+class CElementInfoAllUntpdMnd final : public TUntpd<CAllUntpdMnd>
+{
+public:
+    using TUntpd<CAllUntpdMnd>::TUntpd;
+};
+class CElementInfoChoiceUntpdOpt final : public TUntpd<CChoiceUntpdOpt>
+{
+public:
+    using TUntpd<CChoiceUntpdOpt>::TUntpd;
+};
+
 // ---- Collection entries ------------------------------------------------------------
 
 // Repeating content behind a collection property.
@@ -561,6 +682,11 @@ protected:
                       VxXmlLib16::CXmlWriter *writer) const override;
     // The walk over the siblings; returns where the collection stopped.
     virtual VxXmlLib16::CXmlElement *ReadItems(const VxXmlLib16::CSerializationContext &context,
+                                               VxXmlLib16::CXmlCollectionBase *collection,
+                                               VxXmlLib16::CXmlElement *parent, VxXmlLib16::CXmlElement *cursor) const;
+    // The walk of a wildcard collection: any element for "AnyElement", else only
+    // elements of the entry's name.
+    VxXmlLib16::CXmlElement *ReadWildcardItems(const VxXmlLib16::CSerializationContext &context,
                                                VxXmlLib16::CXmlCollectionBase *collection,
                                                VxXmlLib16::CXmlElement *parent, VxXmlLib16::CXmlElement *cursor) const;
 };
@@ -668,6 +794,37 @@ class CElementInfoAllAbsClsCol final : public TObjectCol<CElementInfoAllCol>
 {
 public:
     using TObjectCol<CElementInfoAllCol>::TObjectCol;
+};
+// A named wildcard collection takes only elements of its own name.
+template <class GroupCol>
+class TUntpdCol : public GroupCol
+{
+public:
+    using GroupCol::GroupCol;
+
+protected:
+    VxXmlLib16::CXmlElement *ReadItems(const VxXmlLib16::CSerializationContext &context,
+                                       VxXmlLib16::CXmlCollectionBase *collection, VxXmlLib16::CXmlElement *parent,
+                                       VxXmlLib16::CXmlElement *cursor) const override
+    {
+        return this->ReadWildcardItems(context, collection, parent, cursor);
+    }
+};
+
+class CElementInfoSeqUntpdCol final : public TUntpdCol<CElementInfoSeqCol>
+{
+public:
+    using TUntpdCol<CElementInfoSeqCol>::TUntpdCol;
+};
+class CElementInfoAllUntpdCol final : public TValueCol<CElementInfoAllCol>
+{
+public:
+    using TValueCol<CElementInfoAllCol>::TValueCol;
+};
+class CElementInfoChoiceUntpdCol final : public TUntpdCol<CElementInfoChoiceCol>
+{
+public:
+    using TUntpdCol<CElementInfoChoiceCol>::TUntpdCol;
 };
 class CElementInfoChoicePrimCol final : public TValueCol<CElementInfoChoiceCol>
 {

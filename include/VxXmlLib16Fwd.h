@@ -45,6 +45,7 @@ namespace VxXmlLib16Data {
 class CParentElementInfo;
 class CElementInfo;
 class CAttributeInfo;
+class CCollectionElementInfo;
 enum XmlElementGroupType : std::int32_t;
 enum XmlElementType : std::int32_t;
 } // namespace VxXmlLib16Data

@@ -6,6 +6,7 @@
 #include "ElementInfo.h"
 #include "Exceptions.h"
 #include "Variant.h"
+#include "Wildcards.h"
 #include "XmlCollectionBase.h"
 #include "XmlWriter.h"
 
@@ -76,7 +77,8 @@ bool CXmlGeneratedClass::DoesElementContainOptionalElements() const
             continue;
         }
         if (dynamic_cast<CElementInfoChoicePrimOpt *>(entry) || dynamic_cast<CElementInfoChoiceClsOpt *>(entry) ||
-            dynamic_cast<CElementInfoChoiceAbsClsOpt *>(entry) || dynamic_cast<CElementInfoChoiceEnumOpt *>(entry))
+            dynamic_cast<CElementInfoChoiceAbsClsOpt *>(entry) || dynamic_cast<CElementInfoChoiceEnumOpt *>(entry) ||
+            dynamic_cast<CElementInfoChoiceUntpdOpt *>(entry))
             return true;
     }
     return false;
@@ -111,6 +113,9 @@ void CXmlGeneratedClass::ToXml_Int(CXmlWriter *writer, bool isRoot, const char *
                 WriteRootPrologue(writer, context);
             // The object's own name, so that a substituted or renamed object keeps it.
             writer->StartElement(GetElementName(), namespaceUri);
+            const CAttributeCol *rootAttributes = isRoot ? context.FindAdditionalRootAttributes() : nullptr;
+            if (rootAttributes)
+                CXmlObjectBase::ToXml_Int(rootAttributes, writer, false, namespaceUri, context, isChoiceMember);
             AttributesToXml_Int(writer, context);
             if (isRoot && !context.GetInLineSchema().empty())
                 writer->WriteInlineSchema(context.GetInLineSchema());
