@@ -31,3 +31,4 @@
 #include "BigInteger.h"
 #include "Decimal.h"
 #include "PrimitiveRestrictions.h"
+#include "XmlDocument.h"

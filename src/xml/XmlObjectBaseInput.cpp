@@ -1,23 +1,51 @@
 #include "XmlObjectBase.h"
 
+#include "BinaryData.h"
+#include "XmlDocument.h"
 #include "binding/UnavailableRoute.h"
 
 namespace VxXmlLib16 {
 
-void CXmlObjectBase::FromXmlFile(const char *, const CSerializationContext &) { ThrowUnavailableRoute("FromXmlFile"); }
+// Each reading entry point builds a document for the call and hands its root to
+// FromXml_Int; parse failures leave before the object is touched.
 
-void CXmlObjectBase::FromXml(const wchar_t *, const CSerializationContext &) { ThrowUnavailableRoute("FromXml"); }
-
-void CXmlObjectBase::FromXml(const char *, const CSerializationContext &) { ThrowUnavailableRoute("FromXml"); }
-
-void CXmlObjectBase::FromXmlStream(const CBinaryData &, const CSerializationContext &)
+void CXmlObjectBase::FromXmlFile(const char *path, const CSerializationContext &context)
 {
-    ThrowUnavailableRoute("FromXmlStream");
+    CXmlDocument document(context);
+    document.Load(path);
+    CXmlElement *root = document.GetDocumentElement();
+    FromXml_Int(root, root->GetFirstElement(), context, false);
 }
 
-void CXmlObjectBase::FromXmlStream(unsigned char *const, std::uint32_t, const CSerializationContext &)
+void CXmlObjectBase::FromXml(const wchar_t *text, const CSerializationContext &context)
 {
-    ThrowUnavailableRoute("FromXmlStream");
+    CXmlDocument document(context);
+    document.LoadXml(text);
+    CXmlElement *root = document.GetDocumentElement();
+    FromXml_Int(root, root->GetFirstElement(), context, false);
+}
+
+void CXmlObjectBase::FromXml(const char *text, const CSerializationContext &context)
+{
+    CXmlDocument document(context);
+    document.LoadXml(text);
+    CXmlElement *root = document.GetDocumentElement();
+    FromXml_Int(root, root->GetFirstElement(), context, false);
+}
+
+void CXmlObjectBase::FromXmlStream(const CBinaryData &data, const CSerializationContext &context)
+{
+    // The buffer is only read: LoadXmlStream copies it before parsing.
+    FromXmlStream(const_cast<unsigned char *>(data.GetData()), data.GetLength(), context);
+}
+
+void CXmlObjectBase::FromXmlStream(unsigned char *const data, std::uint32_t length,
+                                   const CSerializationContext &context)
+{
+    CXmlDocument document(context);
+    document.LoadXmlStream(data, length);
+    CXmlElement *root = document.GetDocumentElement();
+    FromXml_Int(root, root->GetFirstElement(), context, false);
 }
 
 void CXmlObjectBase::FromXmlElement(const CElement *, const CSerializationContext &)
@@ -25,9 +53,11 @@ void CXmlObjectBase::FromXmlElement(const CElement *, const CSerializationContex
     ThrowUnavailableRoute("FromXmlElement");
 }
 
-void CXmlObjectBase::FromXmlElement(const CXmlElement *, const CSerializationContext &)
+void CXmlObjectBase::FromXmlElement(const CXmlElement *element, const CSerializationContext &context)
 {
-    ThrowUnavailableRoute("FromXmlElement");
+    // The tree is read, never changed; FromXml_Int takes it without const for its cursor.
+    auto *root = const_cast<CXmlElement *>(element);
+    FromXml_Int(root, root->GetFirstElement(), context, false);
 }
 
 } // namespace VxXmlLib16

@@ -1,0 +1,232 @@
+// Loading files whole and in chunks, hostile documents, and the reading entry points.
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <fstream>
+#include <string>
+
+#include "BinaryData.h"
+#include "Exceptions.h"
+#include "SerializationContext.h"
+#include "XmlDocument.h"
+#include "XmlObjectBase.h"
+
+using namespace VxXmlLib16;
+
+namespace {
+
+constexpr std::size_t kChunk = 131072;
+
+std::string TempPath(const char *name) { return std::string(VX_TEST_TMP_DIR) + "/" + name; }
+
+std::string WriteFile(const char *name, const std::string &content)
+{
+    const std::string path = TempPath(name);
+    std::ofstream(path, std::ios::binary) << content;
+    return path;
+}
+
+// A document of exactly the given size: padding comments after the root element.
+std::string DocumentOfSize(std::size_t size)
+{
+    std::string text = "<r>x</r><!--";
+    text.append(size - text.size() - 3, 'p');
+    return text + "-->";
+}
+
+std::string LoadMessage(CXmlDocument &document, const std::string &path)
+{
+    try {
+        document.Load(path.c_str());
+    } catch (const CVxException &e) {
+        return e.GetMessage();
+    }
+    return "no failure";
+}
+
+// Sums up a tree so that two loads can be compared.
+std::string Fingerprint(const CXmlElement *element)
+{
+    std::string out = element->GetNamespaceURI() + "|" + element->GetLocalName() + "{" + element->GetText();
+    for (const CXmlAttribute *attribute : element->GetAttributes())
+        out += "@" + attribute->GetLocalName() + "=" + attribute->GetValue();
+    for (const CXmlElement *child = element->GetFirstElement(); child; child = child->GetNextSiblingElement())
+        out += Fingerprint(child);
+    return out + "}";
+}
+
+class AsyncReading
+{
+public:
+    AsyncReading() { AsyncFromXmlFile(true); }
+    ~AsyncReading() { AsyncFromXmlFile(false); }
+};
+
+} // namespace
+
+TEST(XmlDocumentFileTest, ChunkedReadingBuildsTheSameTreeAsWholeReading)
+{
+    // A CDATA section and a multi-byte character across the first chunk boundary.
+    std::string text = "<r><a>\xC3\xA9</a><![CDATA[";
+    text.append(kChunk - text.size() - 1, 'c');
+    text += "\xC3\xA9]]>";
+    for (int i = 0; i < 5000; ++i)
+        text += "<item n='" + std::to_string(i) + "'>v\r\n</item>";
+    text += "</r>";
+    const std::string path = WriteFile("chunked.xml", text);
+    CSerializationContext context;
+    context.SetStripCDATA(false);
+
+    CXmlDocument whole(context);
+    whole.Load(path.c_str());
+    const std::string expected = Fingerprint(whole.GetDocumentElement());
+    EXPECT_NE(expected.find("<![CDATA[cc"), std::string::npos);
+    EXPECT_NE(expected.find("\xC3\xA9]]>"), std::string::npos);
+
+    AsyncReading async;
+    CXmlDocument chunked(context);
+    chunked.Load(path.c_str());
+    EXPECT_EQ(Fingerprint(chunked.GetDocumentElement()), expected);
+    // A second load starts again at the beginning of the file.
+    chunked.Load(path.c_str());
+    EXPECT_EQ(Fingerprint(chunked.GetDocumentElement()), expected);
+}
+
+TEST(XmlDocumentFileTest, ChunkedReadingFailsAtTheEndOfTheFile)
+{
+    AsyncReading async;
+    CXmlDocument document;
+    const std::string endOfFile = FormatString("Error [0x%08x]", ENODATA);
+    // A file of whole chunks runs into the end of the file with its next read.
+    EXPECT_EQ(LoadMessage(document, WriteFile("exact.xml", DocumentOfSize(kChunk))),
+              "Failed to read the contents of the file. " + endOfFile);
+    EXPECT_EQ(LoadMessage(document, WriteFile("exact2.xml", DocumentOfSize(2 * kChunk))),
+              "Failed to read the contents of the file. " + endOfFile);
+    const std::string empty = WriteFile("empty.xml", "");
+    EXPECT_EQ(LoadMessage(document, empty), "Failed to read the contents of the file [" + empty + "] " + endOfFile);
+    // The chunked path cleans up after a failure.
+    EXPECT_EQ(document.GetDocumentElement(), nullptr);
+
+    EXPECT_EQ(LoadMessage(document, WriteFile("short.xml", DocumentOfSize(kChunk - 1))), "no failure");
+    EXPECT_EQ(LoadMessage(document, WriteFile("long.xml", DocumentOfSize(kChunk + 1))), "no failure");
+    EXPECT_EQ(LoadMessage(document, WriteFile("bad.xml", "<r>\n<a></r>")), "mismatched tag at line 2");
+    EXPECT_EQ(document.GetDocumentElement(), nullptr);
+}
+
+TEST(XmlDocumentFileTest, FileFailuresNameTheFileAndTheSystemError)
+{
+    const std::string missing = TempPath("does-not-exist.xml");
+    const std::string expected = FormatString("Failed to open the file [%s] Error [0x%08x]", missing.c_str(), ENOENT);
+    CXmlDocument document;
+    EXPECT_EQ(LoadMessage(document, missing), expected);
+    AsyncReading async;
+    EXPECT_EQ(LoadMessage(document, missing), expected);
+}
+
+TEST(XmlDocumentFileTest, WholeReadingOfAnEmptyFileIsAParseFailure)
+{
+    CXmlDocument document;
+    EXPECT_EQ(LoadMessage(document, WriteFile("empty-whole.xml", "")), "no element found at line 1");
+    // The same size that fails in chunks is fine when read whole.
+    EXPECT_EQ(LoadMessage(document, WriteFile("exact-whole.xml", DocumentOfSize(kChunk))), "no failure");
+}
+
+TEST(XmlDocumentFileTest, EntityExpansionIsBounded)
+{
+    std::string laughs = "<!DOCTYPE r [<!ENTITY a0 'laugh laugh laugh laugh'>";
+    for (int i = 1; i < 12; ++i) {
+        laughs += "<!ENTITY a" + std::to_string(i) + " '";
+        for (int k = 0; k < 10; ++k)
+            laughs += "&a" + std::to_string(i - 1) + ";";
+        laughs += "'>";
+    }
+    laughs += "]><r>&a11;</r>";
+    CXmlDocument document;
+    try {
+        document.LoadXml(laughs.c_str());
+        FAIL() << "expanded " << document.GetDocumentElement()->GetText().size() << " bytes";
+    } catch (const CVxException &e) {
+        EXPECT_NE(e.GetMessage().find("amplification"), std::string::npos) << e.GetMessage();
+    }
+}
+
+TEST(XmlDocumentFileTest, ExternalEntitiesAreNeverRead)
+{
+    const std::string secret = WriteFile("secret.txt", "SECRET");
+    const std::string text = "<!DOCTYPE r [<!ENTITY e SYSTEM 'file://" + secret + "'>]><r>a&e;b</r>";
+    CXmlDocument document;
+    document.LoadXml(text.c_str());
+    EXPECT_EQ(document.GetDocumentElement()->GetText(), "ab");
+}
+
+TEST(XmlDocumentFileTest, DeepTreesLoadAndDieWithoutRecursion)
+{
+    constexpr int depth = 1000000;
+    std::string text;
+    text.reserve(depth * 7 + 8);
+    for (int i = 0; i < depth; ++i)
+        text += "<a>";
+    text += "x";
+    for (int i = 0; i < depth; ++i)
+        text += "</a>";
+    auto document = std::make_unique<CXmlDocument>();
+    document->LoadXml(text.c_str());
+    const CXmlElement *deepest = document->GetDocumentElement();
+    while (deepest->GetFirstElement())
+        deepest = deepest->GetFirstElement();
+    EXPECT_EQ(deepest->GetText(), "x");
+    EXPECT_EQ(deepest->GetXPath().size(), 2u * depth);
+    document.reset();
+}
+
+namespace {
+
+// Records what the entry points hand over.
+class Probe final : public CXmlObjectBase
+{
+public:
+    CXmlObjectBase *GetBase() override { return this; }
+    std::string GetTargetNamespace() const override { return std::string(); }
+    std::string GetNamespace() const override { return std::string(); }
+    std::string seen;
+
+protected:
+    void ToXml_Int(CXmlWriter *, bool, const char *, const CSerializationContext &, bool) const override {}
+    CXmlElement *FromXml_Int(CXmlElement *element, CXmlElement *firstChild, const CSerializationContext &,
+                             bool isChoiceMember) override
+    {
+        seen = element->GetLocalName() + "/" + (firstChild ? firstChild->GetLocalName() : "-") +
+               (isChoiceMember ? "!" : "");
+        return nullptr;
+    }
+};
+
+} // namespace
+
+TEST(XmlDocumentFileTest, EntryPointsHandTheRootAndItsFirstChildOver)
+{
+    CSmartPtr<Probe> probe(new Probe);
+    probe->FromXml("<a>t<b/><c/></a>");
+    EXPECT_EQ(probe->seen, "a/b");
+    probe->FromXml(L"<w/>");
+    EXPECT_EQ(probe->seen, "w/-");
+    unsigned char bytes[] = "<s><t/></s>";
+    probe->FromXmlStream(bytes, sizeof bytes - 1);
+    EXPECT_EQ(probe->seen, "s/t");
+    probe->FromXmlStream(CBinaryData("<u><v/></u>"));
+    EXPECT_EQ(probe->seen, "u/v");
+    EXPECT_THROW(probe->FromXmlStream(CBinaryData()), CVxException);
+    probe->FromXmlFile(WriteFile("entry.xml", "<f><g/></f>").c_str());
+    EXPECT_EQ(probe->seen, "f/g");
+
+    CXmlDocument document;
+    document.LoadXml("<x><y/></x>");
+    probe->FromXmlElement(document.GetDocumentElement()->GetFirstElement());
+    EXPECT_EQ(probe->seen, "y/-");
+
+    // A parse failure leaves the object untouched.
+    EXPECT_THROW(probe->FromXml("<a>"), CVxException);
+    EXPECT_EQ(probe->seen, "y/-");
+}

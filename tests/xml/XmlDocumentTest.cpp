@@ -1,0 +1,216 @@
+// The document tree as the Expat reader builds it: names, namespaces, text, paths.
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "../values/LocalTextScope.h"
+#include "Exceptions.h"
+#include "SerializationContext.h"
+#include "XmlDocument.h"
+
+using namespace VxXmlLib16;
+
+namespace {
+
+std::string MessageOf(CXmlDocument &document, const char *text)
+{
+    try {
+        document.LoadXml(text);
+    } catch (const CVxException &e) {
+        return e.GetMessage();
+    }
+    return "no failure";
+}
+
+const char kOrders[] = "<?xml version='1.0'?>\n"
+                       "<o:orders xmlns:o='urn:o' xmlns='urn:d' xmlns:x='urn:x' xmlns:xsi="
+                       "'http://www.w3.org/2001/XMLSchema-instance'>\n"
+                       "  <order o:id='1' plain='p'><item>a</item><item>b</item><note/></order>\n"
+                       "  <order xsi:nil='true' xsi:type='t'/>\n"
+                       "  <x:order/>\n"
+                       "</o:orders>";
+
+} // namespace
+
+TEST(XmlDocumentTest, NamesAndAttributesCarryTheirNamespaces)
+{
+    CXmlDocument document;
+    document.LoadXml(kOrders);
+    const CXmlElement *root = document.GetDocumentElement();
+    ASSERT_NE(root, nullptr);
+    EXPECT_EQ(root->GetLocalName(), "orders");
+    EXPECT_EQ(root->GetNamespaceURI(), "urn:o");
+    // Declarations are not attributes in namespace mode.
+    EXPECT_TRUE(root->GetAttributes().empty());
+
+    const CXmlElement *order = root->GetFirstElement();
+    EXPECT_EQ(order->GetNamespaceURI(), "urn:d");
+    ASSERT_EQ(order->GetAttributes().size(), 2u);
+    const CXmlAttribute *id = order->GetAttributes()[0];
+    EXPECT_EQ(id->GetLocalName(), "id");
+    EXPECT_EQ(id->GetNamespaceURI(), "urn:o");
+    EXPECT_EQ(order->GetAttribute("id", "urn:o"), "1");
+    EXPECT_EQ(order->GetAttribute("plain", ""), "p");
+    EXPECT_EQ(order->GetAttribute("id", ""), "");
+    EXPECT_EQ(order->GetAttribute("plain", "urn:o"), "");
+
+    const CXmlElement *nilOrder = order->GetNextSiblingElement();
+    ASSERT_EQ(nilOrder->GetAttributes().size(), 2u);
+    EXPECT_TRUE(nilOrder->GetAttributes()[0]->IsNilAttribute());
+    EXPECT_FALSE(nilOrder->GetAttributes()[0]->IsNamespaceAttribute());
+    EXPECT_TRUE(nilOrder->GetAttributes()[1]->IsNamespaceAttribute());
+    EXPECT_FALSE(id->IsNilAttribute() || id->IsNamespaceAttribute());
+    EXPECT_EQ(nilOrder->GetNextSiblingElement()->GetNamespaceURI(), "urn:x");
+    EXPECT_EQ(nilOrder->GetParentElm(), root);
+    EXPECT_EQ(nilOrder->GetDocument(), &document);
+}
+
+TEST(XmlDocumentTest, PathsUsePredicatesOnlyForRepeatedNamesAndPutThePrefixBeforeTheAt)
+{
+    CXmlDocument document;
+    document.LoadXml(kOrders);
+    const CXmlElement *root = document.GetDocumentElement();
+    const CXmlElement *order = root->GetFirstElement();
+    const CXmlElement *secondItem = order->GetFirstElement()->GetNextSiblingElement();
+    // The default namespace has the empty alias, which gives no prefix.
+    EXPECT_EQ(root->GetXPath(), "/o:orders");
+    EXPECT_EQ(order->GetXPath(), "/o:orders/order[1]");
+    EXPECT_EQ(order->GetNextSiblingElement()->GetXPath(), "/o:orders/order[2]");
+    EXPECT_EQ(order->GetNextSiblingElement()->GetNextSiblingElement()->GetXPath(), "/o:orders/x:order");
+    EXPECT_EQ(order->GetFirstElement()->GetXPath(), "/o:orders/order[1]/item[1]");
+    EXPECT_EQ(secondItem->GetXPath(), "/o:orders/order[1]/item[2]");
+    EXPECT_EQ(secondItem->GetNextSiblingElement()->GetXPath(), "/o:orders/order[1]/note");
+    EXPECT_EQ(order->GetAttributes()[0]->GetXPath(), "/o:orders/order[1]/o:@id");
+    EXPECT_EQ(order->GetAttributes()[1]->GetXPath(), "/o:orders/order[1]/@plain");
+}
+
+TEST(XmlDocumentTest, AliasTableIsFlatAndKeepsTheLastDeclaration)
+{
+    CXmlDocument document;
+    document.LoadXml("<r xmlns:a='urn:1' xmlns:b='urn:1'><c xmlns:a='urn:2' xmlns=''/><d/></r>");
+    EXPECT_EQ(document.LookupNamespaceFromAlias("a"), "urn:2");
+    EXPECT_EQ(document.LookupAliasFromNamespace("urn:1"), "b");
+    EXPECT_EQ(document.LookupAliasFromNamespace("urn:2"), "a");
+    EXPECT_EQ(document.LookupAliasFromNamespace("urn:none"), "");
+    EXPECT_EQ(document.LookupNamespaceFromAlias("none"), "");
+    // xmlns="" stores the empty URI under the empty alias.
+    EXPECT_EQ(document.LookupNamespaceFromAlias(""), "");
+    EXPECT_EQ(document.LookupAliasFromNamespace(""), "");
+}
+
+TEST(XmlDocumentTest, WithoutNamespacesNamesStayWholeAndDeclarationsAreAttributes)
+{
+    CSerializationContext context;
+    context.SetSchemaType(SchemaType_NoNamespaces);
+    CXmlDocument document(context);
+    document.LoadXml("<a:b xmlns:a='urn:a' a:c='1'/>");
+    const CXmlElement *root = document.GetDocumentElement();
+    EXPECT_EQ(root->GetLocalName(), "a:b");
+    EXPECT_EQ(root->GetNamespaceURI(), "");
+    ASSERT_EQ(root->GetAttributes().size(), 2u);
+    EXPECT_EQ(root->GetAttributes()[0]->GetLocalName(), "xmlns:a");
+    EXPECT_EQ(root->GetAttribute("a:c", ""), "1");
+}
+
+TEST(XmlDocumentTest, TextIsJoinedAroundChildrenWithoutCarriageReturns)
+{
+    CXmlDocument document;
+    document.LoadXml("<r>one<c>in</c>two&#13;three\r\nfour&#233;&#x4E2D;&amp;<![CDATA[x\r\n<y>]]></r>");
+    const CXmlElement *root = document.GetDocumentElement();
+    EXPECT_EQ(root->GetText(), "onetwothree\nfour\xC3\xA9\xE4\xB8\xAD&x\n<y>");
+    EXPECT_EQ(root->GetFirstElement()->GetText(), "in");
+}
+
+TEST(XmlDocumentTest, CdataKeepsItsMarkersOnlyWhenNotStripped)
+{
+    CSerializationContext context;
+    context.SetStripCDATA(false);
+    CXmlDocument document(context);
+    document.LoadXml("<r>a<![CDATA[<b>]]>c</r>");
+    EXPECT_EQ(document.GetDocumentElement()->GetText(), "a<![CDATA[<b>]]>c");
+}
+
+TEST(XmlDocumentTest, TextArrivesInTheLocalEncoding)
+{
+    LocalTextScope latin1(28591);
+    CXmlDocument document;
+    document.LoadXml("<caf\xC3\xA9 n='\xC3\xBC'>\xC3\xA9t\xC3\xA9</caf\xC3\xA9>");
+    const CXmlElement *root = document.GetDocumentElement();
+    EXPECT_EQ(root->GetLocalName(), "caf\xE9");
+    EXPECT_EQ(root->GetText(), "\xE9t\xE9");
+    EXPECT_EQ(root->GetAttribute("n", ""), "\xFC");
+}
+
+TEST(XmlDocumentTest, WideTextIsReadAsUtf16)
+{
+    CXmlDocument document;
+    document.LoadXml(L"<r a='\u00e9'>\U0001F600x</r>");
+    EXPECT_EQ(document.GetDocumentElement()->GetText(), "\xF0\x9F\x98\x80x");
+    EXPECT_EQ(document.GetDocumentElement()->GetAttribute("a", ""), "\xC3\xA9");
+    // The byte order mark alone is no document.
+    try {
+        document.LoadXml(L"");
+        FAIL();
+    } catch (const CVxException &e) {
+        EXPECT_EQ(e.GetMessage(), "no element found at line 1");
+    }
+}
+
+TEST(XmlDocumentTest, FailuresKeepTheirTexts)
+{
+    CXmlDocument document;
+    EXPECT_EQ(MessageOf(document, ""), "XML String is empty!");
+    EXPECT_EQ(MessageOf(document, nullptr), "XML String is empty!");
+    EXPECT_EQ(MessageOf(document, "<a>\n<b>\n</a>"), "mismatched tag at line 3");
+    EXPECT_EQ(MessageOf(document, "<a/><b/>"), "junk after document element at line 1");
+    unsigned char byte = '<';
+    try {
+        document.LoadXmlStream(&byte, 0);
+        FAIL();
+    } catch (const CVxException &e) {
+        EXPECT_EQ(e.GetMessage(), "XML Stream is empty!");
+    }
+}
+
+TEST(XmlDocumentTest, ReloadingReplacesTheTreeAndTheAliases)
+{
+    CXmlDocument document;
+    document.LoadXml("<a xmlns:p='urn:p'><b/></a>");
+    unsigned char second[] = "<c/>";
+    document.LoadXmlStream(second, sizeof second - 1);
+    EXPECT_EQ(document.GetDocumentElement()->GetLocalName(), "c");
+    EXPECT_EQ(document.LookupNamespaceFromAlias("p"), "");
+    // A failed load leaves what was built until the next Cleanup.
+    EXPECT_NE(MessageOf(document, "<d><e></d>"), "no failure");
+    ASSERT_NE(document.GetDocumentElement(), nullptr);
+    EXPECT_EQ(document.GetDocumentElement()->GetLocalName(), "d");
+    document.Cleanup();
+    EXPECT_EQ(document.GetDocumentElement(), nullptr);
+}
+
+namespace {
+
+int g_seen = 0;
+
+bool DropItems(CXmlElement *element)
+{
+    ++g_seen;
+    return element->GetLocalName() == "item";
+}
+
+} // namespace
+
+TEST(XmlDocumentTest, CallbackDropsConsumedElementsAndKeepsTheRest)
+{
+    g_seen = 0;
+    CXmlDocument document(&DropItems);
+    document.LoadXml("<r>x<item>1</item><keep/>y<item>2</item><item><item/></item></r>");
+    EXPECT_EQ(g_seen, 6);
+    const CXmlElement *root = document.GetDocumentElement();
+    EXPECT_EQ(root->GetText(), "xy");
+    ASSERT_NE(root->GetFirstElement(), nullptr);
+    EXPECT_EQ(root->GetFirstElement()->GetLocalName(), "keep");
+    EXPECT_EQ(root->GetFirstElement()->GetNextSiblingElement(), nullptr);
+    EXPECT_EQ(root->GetFirstElement()->GetXPath(), "/r/keep");
+}
