@@ -31,4 +31,6 @@
 #include "BigInteger.h"
 #include "Decimal.h"
 #include "PrimitiveRestrictions.h"
+#include "XmlTypeCollection.h"
+#include "TypeCollections.h"
 #include "XmlDocument.h"
