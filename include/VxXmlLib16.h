@@ -38,3 +38,6 @@
 #include "XmlDocument.h"
 #include "Wildcards.h"
 #include "ClassFactory.h"
+#include "XmlTypeCollection.h"
+#include "TypeCollections.h"
+#include "XmlDocument.h"

@@ -116,7 +116,7 @@ public:
 
 protected:
     void SetElementName(const char *name);
-    std::string GetElementName() const { return m_elementName; }
+    const std::string &GetElementName() const { return m_elementName; }
     static void SetElementName(CXmlObjectBase *object, const char *name);
 
     // The way in for derived classes that call these protected operations on another object.
