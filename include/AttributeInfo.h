@@ -52,6 +52,9 @@ protected:
                            const VxXmlLib16::CXmlAttribute &attribute) const;
     bool IsThisAttribute(const VxXmlLib16::CSerializationContext &context,
                          VxXmlLib16::CXmlAttribute *attribute) const;
+    // The property's value; false for an optional attribute the object leaves out, which
+    // an invalid variant says.
+    bool ReadPresentValue(const VxXmlLib16::CXmlGeneratedClass *object, VxXmlLib16::VxVariant &value) const;
     // An optional attribute whose text equals its default stays out when the context
     // asks for it; the comparison is on the text, byte for byte.
     bool IsSuppressedDefault(const VxXmlLib16::CSerializationContext &context, const std::string &text) const;

@@ -184,14 +184,17 @@ protected:
                                               const char *declaredNamespace);
 
 private:
-    void WriteSimpleElement(VxXmlLib16::CXmlWriter *writer, const std::string &text, VxXmlLib16::ItemType type,
-                            bool isDefault) const;
+    // The single-value writing both kinds share; textOf renders a present value.
+    template <class TextOf>
+    bool WriteValueElement(const VxXmlLib16::CXmlGeneratedClass *object, VxXmlLib16::CXmlWriter *writer,
+                           TextOf textOf) const;
     // The attributes of a primitive element: only xsi:nil belongs there. True when nil.
     bool ReadNilAttribute(const VxXmlLib16::CSerializationContext &context, const VxXmlLib16::CXmlElement &element,
                           VxXmlLib16::VxVariant &value) const;
-    // True when the element was nil and has been stepped over; else its text or the default.
-    bool ReadValueText(const VxXmlLib16::CSerializationContext &context, VxXmlLib16::CXmlElement **cursor,
-                       const std::string *&text) const;
+    // The single-value reading both kinds share; convert turns the text into the variant.
+    template <class Convert>
+    void ReadValueElement(const VxXmlLib16::CSerializationContext &context, VxXmlLib16::CXmlGeneratedClass *object,
+                          VxXmlLib16::CXmlElement **cursor, Convert convert) const;
 
     std::string m_name;
     std::string m_namespaceUri;
@@ -369,6 +372,11 @@ protected:
                                    const VxXmlLib16::CXmlGeneratedClass *object,
                                    VxXmlLib16::CXmlWriter *writer) const override;
     bool IsPseudo() const { return m_elementType == XmlElementType_Pseudo; }
+    // Reads a new child at the cursor, from inside its element or, for a pseudo child,
+    // inline; when something was consumed the property takes the child. True then.
+    bool ReadNewChild(const VxXmlLib16::CSerializationContext &context, VxXmlLib16::CXmlGeneratedClass *object,
+                      VxXmlLib16::CXmlElement *parent, VxXmlLib16::CXmlElement **cursor,
+                      VxXmlLib16::CXmlObjectBase *child) const;
 
 private:
     XmlElementType m_elementType;

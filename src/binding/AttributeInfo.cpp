@@ -66,6 +66,12 @@ bool CAttributeInfo::IsThisAttribute(const CSerializationContext &context, CXmlA
     return context.GetIgnoreNamespaces() || attribute->GetNamespaceURI() == m_namespaceUri;
 }
 
+bool CAttributeInfo::ReadPresentValue(const CXmlGeneratedClass *object, VxVariant &value) const
+{
+    ReadProperty(object, value);
+    return !m_optional || value.IsValid();
+}
+
 bool CAttributeInfo::IsSuppressedDefault(const CSerializationContext &context, const std::string &text) const
 {
     return m_optional && !m_defaultValue.empty() && context.GetNoOptionalAttributeDefaultOutput() &&
@@ -104,9 +110,7 @@ void CAttributeInfoPrimitive::AttributeToXml(const CSerializationContext &contex
                                              CXmlWriter *writer) const
 {
     VxVariant value;
-    ReadProperty(object, value);
-    // An invalid variant is how a generated class says an optional attribute is absent.
-    if (IsOptional() && !value.IsValid())
+    if (!ReadPresentValue(object, value))
         return;
     const std::string text = value.ToString(m_formatOverride.c_str());
     if (IsSuppressedDefault(context, text))
@@ -141,8 +145,7 @@ void CAttributeInfoEnum::AttributeToXml(const CSerializationContext &context, co
                                         CXmlWriter *writer) const
 {
     VxVariant value;
-    ReadProperty(object, value);
-    if (IsOptional() && !value.IsValid())
+    if (!ReadPresentValue(object, value))
         return;
     const std::string text = m_toString(value.GetI4());
     if (IsSuppressedDefault(context, text))

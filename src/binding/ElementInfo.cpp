@@ -132,16 +132,8 @@ void CElementInfo::SetChild(CXmlGeneratedClass *object, CXmlObjectBase *child, c
     InvokePropertySet(object, value, element);
 }
 
-void CElementInfo::WriteSimpleElement(CXmlWriter *writer, const std::string &text, ItemType type,
-                                      bool isDefault) const
-{
-    writer->StartElement(m_name, m_namespaceUri);
-    writer->WriteElementValue(text, type, isDefault);
-    writer->EndElement();
-}
-
-bool CElementInfo::ElementToXmlPrim(const CSerializationContext &, const CXmlGeneratedClass *object,
-                                    CXmlWriter *writer) const
+template <class TextOf>
+bool CElementInfo::WriteValueElement(const CXmlGeneratedClass *object, CXmlWriter *writer, TextOf textOf) const
 {
     VxVariant value;
     ReadProperty(object, value);
@@ -154,31 +146,29 @@ bool CElementInfo::ElementToXmlPrim(const CSerializationContext &, const CXmlGen
     }
     if (!value.IsValid())
         return false;
-    const std::string text = value.ToString(m_formatOverride.c_str());
+    const std::string text = textOf(value);
     // A value equal to the default passes no facet; the writer decides whether it shows.
     const bool isDefault = !m_defaultValue.empty() && text == m_defaultValue;
-    if (!isDefault)
+    if (!isDefault && m_isPrimitive)
         CheckRestriction(value);
-    WriteSimpleElement(writer, text, value.GetTypeAsEnum(), isDefault);
+    writer->StartElement(m_name, m_namespaceUri);
+    writer->WriteElementValue(text, m_isPrimitive ? value.GetTypeAsEnum() : ItemType_string, isDefault);
+    writer->EndElement();
     return true;
+}
+
+bool CElementInfo::ElementToXmlPrim(const CSerializationContext &, const CXmlGeneratedClass *object,
+                                    CXmlWriter *writer) const
+{
+    return WriteValueElement(object, writer,
+                             [this](const VxVariant &value) { return value.ToString(m_formatOverride.c_str()); });
 }
 
 bool CElementInfo::ElementToXmlEnum(const CSerializationContext &, const CXmlGeneratedClass *object,
                                     CXmlWriter *writer, EnumToString toString) const
 {
-    VxVariant value;
-    ReadProperty(object, value);
-    if (value.IsNil()) {
-        writer->StartElement(m_name, m_namespaceUri);
-        writer->WriteNilAttribute();
-        writer->EndElement();
-        return true;
-    }
-    if (!value.IsValid())
-        return false;
-    const std::string text = toString(value.GetI4());
-    WriteSimpleElement(writer, text, ItemType_string, !m_defaultValue.empty() && text == m_defaultValue);
-    return true;
+    return WriteValueElement(object, writer,
+                             [toString](const VxVariant &value) { return std::string(toString(value.GetI4())); });
 }
 
 bool CElementInfo::ElementToXmlCls(const CSerializationContext &context, const CXmlGeneratedClass *object,
@@ -244,44 +234,35 @@ bool CElementInfo::ReadNilAttribute(const CSerializationContext &context, const 
     return nil;
 }
 
-bool CElementInfo::ReadValueText(const CSerializationContext &context, CXmlElement **cursor,
-                                 const std::string *&text) const
+template <class Convert>
+void CElementInfo::ReadValueElement(const CSerializationContext &context, CXmlGeneratedClass *object,
+                                    CXmlElement **cursor, Convert convert) const
 {
     CXmlElement &element = **cursor;
-    VxVariant nil;
-    if (ReadNilAttribute(context, element, nil)) {
-        // A nil element leaves the property as it was.
-        *cursor = element.GetNextSiblingElement();
-        return true;
+    VxVariant value;
+    // A nil element leaves the property as it was.
+    if (!ReadNilAttribute(context, element, value)) {
+        const std::string &text =
+            element.GetText().empty() && !m_defaultValue.empty() ? m_defaultValue : element.GetText();
+        convert(text, value);
+        InvokePropertySet(object, value, element);
     }
-    text = element.GetText().empty() && !m_defaultValue.empty() ? &m_defaultValue : &element.GetText();
-    return false;
+    *cursor = element.GetNextSiblingElement();
 }
 
 void CElementInfo::ElementFromXmlPrim(const CSerializationContext &context, CXmlGeneratedClass *object,
                                       CXmlElement **cursor) const
 {
-    const std::string *text = nullptr;
-    if (ReadValueText(context, cursor, text))
-        return;
-    CXmlElement &element = **cursor;
-    VxVariant value;
-    value.FromString(*text, m_type, m_rule);
-    InvokePropertySet(object, value, element);
-    *cursor = element.GetNextSiblingElement();
+    ReadValueElement(context, object, cursor,
+                     [this](const std::string &text, VxVariant &value) { value.FromString(text, m_type, m_rule); });
 }
 
 void CElementInfo::ElementFromXmlEnum(const CSerializationContext &context, CXmlGeneratedClass *object,
                                       CXmlElement **cursor) const
 {
-    const std::string *text = nullptr;
-    if (ReadValueText(context, cursor, text))
-        return;
-    CXmlElement &element = **cursor;
-    VxVariant value;
-    value.SetI4(m_fromString(text->c_str()));
-    InvokePropertySet(object, value, element);
-    *cursor = element.GetNextSiblingElement();
+    // The text reaches the generated function as it stands.
+    ReadValueElement(context, object, cursor,
+                     [this](const std::string &text, VxVariant &value) { value.SetI4(m_fromString(text.c_str())); });
 }
 
 void CElementInfo::ElementFromXmlValue(const CSerializationContext &context, CXmlGeneratedClass *object,
@@ -379,6 +360,22 @@ void CObjectElementInfo::PseudoChildAttributeToXml(const CSerializationContext &
 {
     if (IsPseudo())
         AttributesToXml_Int(GetChild(const_cast<CXmlGeneratedClass *>(object)), writer, context);
+}
+
+bool CObjectElementInfo::ReadNewChild(const CSerializationContext &context, CXmlGeneratedClass *object,
+                                      CXmlElement *parent, CXmlElement **cursor, CXmlObjectBase *child) const
+{
+    CXmlElement *const element = *cursor;
+    if (IsPseudo()) {
+        CXmlElement *const next = ReadInline(context, child, parent, element);
+        if (next == element)
+            return false;
+        *cursor = next;
+    } else {
+        Descend(context, child, cursor);
+    }
+    SetChild(object, child, *element);
+    return true;
 }
 
 CClsElementInfo::CClsElementInfo(const char *name, const char *namespaceUri, int propertyIndex,

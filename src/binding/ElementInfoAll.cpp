@@ -41,23 +41,9 @@ CElementInfoAllClsOpt::CElementInfoAllClsOpt(const char *name, const char *names
 bool CElementInfoAllClsOpt::ElementFromXml(const CSerializationContext &context, CXmlGeneratedClass *object,
                                            CXmlElement *parent, CXmlElement **cursor, const char *, XmlElementType)
 {
-    CXmlElement *const element = *cursor;
-    if (!IsPseudo()) {
-        if (!IsThisElement(context, element))
-            return false;
-        const CSmartPtr<CXmlObjectBase> child = Create();
-        Descend(context, child, cursor);
-        SetChild(object, child, *element);
-        return true;
-    }
-    if (!element)
+    if (IsPseudo() ? !*cursor : !IsThisElement(context, *cursor))
         return false;
-    const CSmartPtr<CXmlObjectBase> child = Create();
-    *cursor = ReadInline(context, child, parent, element);
-    if (*cursor == element)
-        return false;
-    SetChild(object, child, *element);
-    return true;
+    return ReadNewChild(context, object, parent, cursor, Create());
 }
 
 bool CElementInfoAllClsOpt::Validate(const CSerializationContext &, const CXmlGeneratedClass *, bool, bool) const
@@ -104,23 +90,11 @@ bool CElementInfoAllAbsClsOpt::ElementFromXml(const CSerializationContext &conte
                                               CXmlElement *parent, CXmlElement **cursor, const char *,
                                               XmlElementType)
 {
-    CXmlElement *const element = *cursor;
+    if (IsPseudo() ? !*cursor : !IsThisElement(context, *cursor))
+        return false;
     // An element no class fits counts as not found: it stays for the driver to judge.
-    if (IsPseudo() ? !element : !IsThisElement(context, element))
-        return false;
-    const CSmartPtr<CXmlObjectBase> child = Create(element);
-    if (!child)
-        return false;
-    if (!IsPseudo()) {
-        Descend(context, child, cursor);
-    } else {
-        CXmlElement *const next = ReadInline(context, child, parent, element);
-        if (next == element)
-            return false;
-        *cursor = next;
-    }
-    SetChild(object, child, *element);
-    return true;
+    const CSmartPtr<CXmlObjectBase> child = Create(*cursor);
+    return child && ReadNewChild(context, object, parent, cursor, child);
 }
 
 bool CElementInfoAllAbsClsOpt::Validate(const CSerializationContext &, const CXmlGeneratedClass *, bool, bool) const

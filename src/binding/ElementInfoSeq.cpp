@@ -61,22 +61,9 @@ CElementInfoSeqClsOpt::CElementInfoSeqClsOpt(const char *name, const char *names
 bool CElementInfoSeqClsOpt::ElementFromXml(const CSerializationContext &context, CXmlGeneratedClass *object,
                                            CXmlElement *parent, CXmlElement **cursor, const char *, XmlElementType)
 {
-    CXmlElement *const element = *cursor;
-    if (!IsPseudo()) {
-        if (IsThisElement(context, element)) {
-            const CSmartPtr<CXmlObjectBase> child = Create();
-            Descend(context, child, cursor);
-            SetChild(object, child, *element);
-        }
-        return true;
-    }
-    if (element) {
-        const CSmartPtr<CXmlObjectBase> child = Create();
-        CXmlElement *const next = ReadInline(context, child, parent, element);
-        if (next != element)
-            SetChild(object, child, *element);
-        *cursor = next;
-    }
+    // A pseudo child tries wherever the cursor stands; a real one only at its own element.
+    if (IsPseudo() ? *cursor != nullptr : IsThisElement(context, *cursor))
+        ReadNewChild(context, object, parent, cursor, Create());
     return true;
 }
 
