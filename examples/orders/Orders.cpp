@@ -373,7 +373,12 @@ void CCustomerType::AccessProperty(int propertyIndex, bool read, VxVariant &valu
 
 CSmartPtr<CDates> CDates::CreateInstance() { return new CDates(); }
 
-CDates::CDates() : COrdersBase(DatesTables) { Init(); }
+CDates::CDates() : COrdersBase(DatesTables)
+{
+    // A group writes no element; the name appears in failure messages only.
+    SetElementName("Dates");
+    Init();
+}
 
 void CDates::Init()
 {
@@ -561,7 +566,11 @@ void CInvoiceType::AccessProperty(int propertyIndex, bool read, VxVariant &value
 
 CSmartPtr<COrderPayment> COrderPayment::CreateInstance() { return new COrderPayment(); }
 
-COrderPayment::COrderPayment() : COrdersBase(PaymentTables) { Init(); }
+COrderPayment::COrderPayment() : COrdersBase(PaymentTables)
+{
+    SetElementName("OrderPayment");
+    Init();
+}
 
 void COrderPayment::Init()
 {
