@@ -37,13 +37,13 @@ CSerializationContext OrdersContext()
 
 } // namespace
 
-// The sum of one element's integer texts, straight from the text.
-long long SumOf(const std::string &text, const std::string &element)
+// The sum of one element's integer texts, straight from the text, wrapping around.
+unsigned long long SumOf(const std::string &text, const std::string &element)
 {
     const std::string open = "<" + element + ">";
-    long long sum = 0;
+    unsigned long long sum = 0;
     for (std::size_t at = text.find(open); at != std::string::npos; at = text.find(open, at + 1))
-        sum += std::stoll(text.substr(at + open.size()));
+        sum += static_cast<unsigned long long>(std::stoll(text.substr(at + open.size())));
     return sum;
 }
 
