@@ -9,7 +9,7 @@
 #include <iterator>
 #include <string>
 
-#include "Orders.h"
+#include "OrdersContext.h"
 #include "XmlDocument.h"
 
 namespace {
@@ -28,15 +28,6 @@ const std::string &Document20MB()
         return std::string(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
     }();
     return text;
-}
-
-VxXmlLib16::CSerializationContext Context()
-{
-    VxXmlLib16::CSerializationContext context;
-    context.SetDefaultNamespaceURI(Orders::Namespace);
-    context.GetNamespaceAliases().Add("xsi", "http://www.w3.org/2001/XMLSchema-instance");
-    context.GetNamespaceAliases().Add("ext", "urn:example:extension");
-    return context;
 }
 
 void SetBytes(benchmark::State &state, std::size_t bytes)
@@ -59,7 +50,7 @@ BENCHMARK(TreeLoad)->Unit(benchmark::kMillisecond);
 void FromXml(benchmark::State &state)
 {
     const std::string &text = Document20MB();
-    const VxXmlLib16::CSerializationContext context = Context();
+    const VxXmlLib16::CSerializationContext context = Orders::DocumentContext();
     for (auto _ : state) {
         CSmartPtr<Orders::COrdersType> orders = Orders::COrdersType::CreateInstance();
         orders->FromXml(text.c_str(), context);
@@ -71,7 +62,7 @@ BENCHMARK(FromXml)->Unit(benchmark::kMillisecond);
 
 void ToXml(benchmark::State &state)
 {
-    const VxXmlLib16::CSerializationContext context = Context();
+    const VxXmlLib16::CSerializationContext context = Orders::DocumentContext();
     CSmartPtr<Orders::COrdersType> orders = Orders::COrdersType::CreateInstance();
     orders->FromXml(Document20MB().c_str(), context);
     std::size_t bytes = 0;

@@ -5,20 +5,11 @@
 #include <cstdio>
 #include <string>
 
-#include "Orders.h"
+#include "OrdersContext.h"
 
 using namespace VxXmlLib16;
 
 namespace {
-
-CSerializationContext OrdersContext()
-{
-    CSerializationContext context;
-    context.SetDefaultNamespaceURI(Orders::Namespace);
-    context.GetNamespaceAliases().Add("xsi", "http://www.w3.org/2001/XMLSchema-instance");
-    context.GetNamespaceAliases().Add("ext", "urn:example:extension");
-    return context;
-}
 
 void Edit(Orders::COrdersType &orders)
 {
@@ -40,7 +31,7 @@ void Edit(Orders::COrdersType &orders)
 int main(int argc, char **argv)
 {
     const std::string samples = argc > 1 ? argv[1] : VX_ORDERS_SAMPLES;
-    const CSerializationContext context = OrdersContext();
+    const CSerializationContext context = Orders::DocumentContext();
     const CSmartPtr<Orders::COrdersType> orders = Orders::COrdersType::CreateInstance();
     try {
         orders->FromXmlFile((samples + "/orders.xml").c_str(), context);

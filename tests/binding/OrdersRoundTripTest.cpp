@@ -7,7 +7,7 @@
 #include <string>
 
 #include "ExceptionAssert.h"
-#include "Orders.h"
+#include "OrdersContext.h"
 
 using namespace VxXmlLib16;
 
@@ -25,15 +25,6 @@ std::string Generate(const std::string &arguments)
         text.append(buffer, read);
     pclose(pipe);
     return text;
-}
-
-CSerializationContext OrdersContext()
-{
-    CSerializationContext context;
-    context.SetDefaultNamespaceURI(Orders::Namespace);
-    context.GetNamespaceAliases().Add("xsi", "http://www.w3.org/2001/XMLSchema-instance");
-    context.GetNamespaceAliases().Add("ext", "urn:example:extension");
-    return context;
 }
 
 } // namespace
@@ -89,7 +80,7 @@ std::string WithoutIndentation(const std::string &text)
 CSmartPtr<Orders::COrdersType> ReadOrders(const std::string &text)
 {
     CSmartPtr<Orders::COrdersType> orders = Orders::COrdersType::CreateInstance();
-    orders->FromXml(text.c_str(), OrdersContext());
+    orders->FromXml(text.c_str(), Orders::DocumentContext());
     return orders;
 }
 
@@ -101,7 +92,7 @@ TEST(OrdersRoundTrip, GeneratedDocumentsReadAndWriteBack)
         const std::string text = Generate(options);
         ASSERT_FALSE(text.empty());
         CSmartPtr<Orders::COrdersType> orders = ReadOrders(text);
-        const std::string written = orders->ToXml(true, formatted, EOLType_LF, OrdersContext());
+        const std::string written = orders->ToXml(true, formatted, EOLType_LF, Orders::DocumentContext());
         // Every order, line and extension survives, and the content with them.
         EXPECT_EQ(CountOf(text, "<order "), static_cast<std::size_t>(orders->GetOrder()->GetCount()));
         EXPECT_EQ(CountOf(text, "<line "), CountOf(written, "<line "));
@@ -112,7 +103,7 @@ TEST(OrdersRoundTrip, GeneratedDocumentsReadAndWriteBack)
         // What the library writes, it reads back to the same text. A wildcard element keeps
         // the indentation it was read with as its text, so formatted text is compared
         // without the white space between tags.
-        const std::string again = ReadOrders(written)->ToXml(true, formatted, EOLType_LF, OrdersContext());
+        const std::string again = ReadOrders(written)->ToXml(true, formatted, EOLType_LF, Orders::DocumentContext());
         EXPECT_TRUE(formatted ? SameText(WithoutIndentation(written), WithoutIndentation(again))
                               : SameText(written, again));
     }
@@ -172,7 +163,7 @@ TEST(OrdersRoundTrip, DocumentsComeBackByteForByteApartFromTheNormalisations)
         SCOPED_TRACE(options);
         const bool formatted = std::string(options).find("formatted") != std::string::npos;
         const std::string text = Generate(options);
-        const std::string written = ReadOrders(text)->ToXml(true, formatted, EOLType_LF, OrdersContext());
+        const std::string written = ReadOrders(text)->ToXml(true, formatted, EOLType_LF, Orders::DocumentContext());
         EXPECT_TRUE(SameText(Normalised(text, formatted), written));
     }
 }
