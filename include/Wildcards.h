@@ -206,6 +206,9 @@ private:
 
 class CElementCol : public CWildcardCol<CElement>, private CInstanceMonitor
 {
+    // Named wildcard entries of the metadata walk the siblings through the locked read.
+    friend class VxXmlLib16Data::CCollectionElementInfo;
+
 public:
     // The rule is tested against the namespace and then stored as "##any", and the
     // occurrence limits stay 0 and -1, whatever is given. An empty namespace with a

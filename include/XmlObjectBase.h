@@ -25,6 +25,10 @@ bool IsAsyncFromXmlFile();
 
 class CXmlObjectBase : public IEventSink
 {
+    // The metadata entries drive the protected operations of the objects they describe.
+    friend class VxXmlLib16Data::CElementInfo;
+    friend class VxXmlLib16Data::CAttributeInfo;
+
 public:
     CXmlObjectBase() = default;
     // Both copy the reference count too: a copy of a live object starts with its
@@ -112,7 +116,7 @@ public:
 
 protected:
     void SetElementName(const char *name);
-    std::string GetElementName() const { return m_elementName; }
+    const std::string &GetElementName() const { return m_elementName; }
     static void SetElementName(CXmlObjectBase *object, const char *name);
 
     // The way in for derived classes that call these protected operations on another object.

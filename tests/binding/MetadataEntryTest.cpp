@@ -1,0 +1,218 @@
+// Single metadata entries in the places where their rules differ: pseudo groups that
+// rewind, choices that give an alternative back, mandatory searches, wildcards, defaults.
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "ExceptionAssert.h"
+#include "GeneratedTestClasses.h"
+
+using namespace VxXmlLib16;
+using namespace VxXmlLib16Data;
+using namespace VxTest;
+
+namespace {
+
+const CPrimitiveRestrictions NoFacets;
+constexpr auto Keep = CWhitespaceUtils::WhitespaceRule_Preserve;
+
+CElementInfo *Mandatory(const char *name, int property)
+{
+    return new CElementInfoSeqPrimMnd(name, TestNs, property, false, ItemType_string, nullptr, Keep, NoFacets, nullptr);
+}
+
+CElementInfo **Entries(std::initializer_list<CElementInfo *> entries)
+{
+    CElementInfo **table = new CElementInfo *[entries.size() + 1];
+    std::copy(entries.begin(), entries.end(), table);
+    table[entries.size()] = nullptr;
+    return table;
+}
+
+CAttributeInfo **Attributes(std::initializer_list<CAttributeInfo *> entries)
+{
+    CAttributeInfo **table = new CAttributeInfo *[entries.size() + 1];
+    std::copy(entries.begin(), entries.end(), table);
+    table[entries.size()] = nullptr;
+    return table;
+}
+
+CParentElementInfo *Parent(XmlElementGroupType group, XmlElementType type, const char *name)
+{
+    return new CParentElementInfo(group, type, name, TestNs, false, false, -1, ItemType_Invalid, nullptr, false);
+}
+
+// The group (a, b), both mandatory, with no element of its own.
+const CTestTables &GroupTables()
+{
+    static const CTestTables tables{Parent(XmlElementGroupType_Sequence, XmlElementType_Pseudo, "G"),
+                                    Entries({Mandatory("a", 0), Mandatory("b", 1)}), Attributes({})};
+    return tables;
+}
+
+CSmartPtr<CXmlObjectBase> MakeGroup(int, const char *) { return new CTestObject(GroupTables(), 2); }
+CSmartPtr<CXmlObjectBase> NoClass(CXmlElement *) { return nullptr; }
+
+// outer: an optional pseudo group G, then an optional c.
+const CTestTables &OuterTables()
+{
+    static const CTestTables tables{
+        Parent(XmlElementGroupType_Sequence, XmlElementType_Element, "outer"),
+        Entries({new CElementInfoSeqClsOpt("G", TestNs, 0, XmlElementType_Pseudo, MakeGroup, 0),
+                 new CElementInfoSeqPrimOpt("c", TestNs, 1, false, ItemType_string, nullptr, Keep, NoFacets, nullptr)}),
+        Attributes({})};
+    return tables;
+}
+
+// ch: a choice between the pseudo group G and c.
+const CTestTables &ChoiceTables()
+{
+    static const CTestTables tables{
+        Parent(XmlElementGroupType_Choice, XmlElementType_Element, "ch"),
+        Entries({new CElementInfoChoiceClsOpt("G", TestNs, 0, XmlElementType_Pseudo, MakeGroup, 0),
+                 new CElementInfoChoicePrimOpt("c", TestNs, 1, false, ItemType_string, nullptr, Keep, NoFacets,
+                                               nullptr)}),
+        Attributes({})};
+    return tables;
+}
+
+// strict: a mandatory substitution, a mandatory named wildcard, and a mandatory x.
+const CTestTables &StrictTables()
+{
+    static const CTestTables tables{
+        Parent(XmlElementGroupType_Sequence, XmlElementType_Element, "strict"),
+        Entries({new CElementInfoSeqAbsClsMnd("s", TestNs, 0, XmlElementType_Element, NoClass),
+                 new CElementInfoSeqUntpdMnd("w", TestNs, 1, "##any", TestNs), Mandatory("x", 2)}),
+        Attributes({})};
+    return tables;
+}
+
+// defaults: an optional r8 attribute defaulting to "1.0", a required one defaulting to
+// "x", and a nillable element n.
+const CTestTables &DefaultTables()
+{
+    static const CTestTables tables{
+        Parent(XmlElementGroupType_Sequence, XmlElementType_Element, "defaults"),
+        Entries({new CElementInfoSeqPrimOpt("n", TestNs, 2, true, ItemType_i4, nullptr, Keep, NoFacets, nullptr)}),
+        Attributes({new CAttributeInfoPrimitive("r", "", 0, true, ItemType_r8, nullptr, Keep, NoFacets, "1.0"),
+                    new CAttributeInfoPrimitive("q", "", 1, false, ItemType_string, nullptr, Keep, NoFacets, "x")})};
+    return tables;
+}
+
+CSmartPtr<CTestObject> Read(const CTestTables &tables, int properties, const char *text,
+                            const CSerializationContext &context = CSerializationContext())
+{
+    CSmartPtr<CTestObject> object = new CTestObject(tables, properties);
+    object->FromXml(text, context);
+    return object;
+}
+
+std::string MessageOf(const std::function<void()> &action)
+{
+    try {
+        action();
+    } catch (const CVxException &e) {
+        return e.GetMessage();
+    }
+    return "no exception";
+}
+
+class CExposedEntry : public CElementInfo
+{
+public:
+    using CElementInfo::GetAnyDefaultNamespace;
+};
+
+} // namespace
+
+TEST(MetadataEntry, PseudoGroupThatFailsRewinds)
+{
+    CSmartPtr<CTestObject> whole = Read(OuterTables(), 2, "<outer xmlns=\"urn:t\"><a>1</a><b>2</b><c>3</c></outer>");
+    EXPECT_EQ("2", whole->Child<CTestObject>(0)->Property(1).GetString());
+    EXPECT_EQ("3", whole->Property(1).GetString());
+    // b is missing: the group counts as absent, no fault escapes it, and a is left over.
+    EXPECT_EQ("Failed read all the elements held within the element [outer]. The unexpected element [a] remains un "
+              "processed\nPath: /outer",
+              MessageOf([] { Read(OuterTables(), 2, "<outer xmlns=\"urn:t\"><a>1</a><c>3</c></outer>"); }));
+}
+
+TEST(MetadataEntry, ChoiceGivesAnUnusedPseudoAlternativeBack)
+{
+    CSmartPtr<CTestObject> choice = Read(ChoiceTables(), 2, "<ch xmlns=\"urn:t\"><c>1</c></ch>");
+    EXPECT_EQ(ItemType_XmlObject, choice->Property(0).GetTypeAsEnum());
+    EXPECT_EQ(nullptr, static_cast<CXmlObjectBase *>(choice->Property(0).GetXmlObject()));
+    EXPECT_EQ("1", choice->Property(1).GetString());
+    choice = Read(ChoiceTables(), 2, "<ch xmlns=\"urn:t\"><a>1</a><b>2</b></ch>");
+    EXPECT_NE(nullptr, static_cast<CXmlObjectBase *>(choice->Property(0).GetXmlObject()));
+    EXPECT_FALSE(choice->Property(1).IsValid());
+}
+
+TEST(MetadataEntry, MandatoryEntriesNameWhatIsMissing)
+{
+    EXPECT_EQ("Failed to find a suitable substitution element for [s].\nPath: /strict",
+              MessageOf([] { Read(StrictTables(), 3, "<strict xmlns=\"urn:t\"><s/></strict>"); }));
+
+    // Without the substitution entry the wildcard comes first.
+    static const CTestTables wildcard{Parent(XmlElementGroupType_Sequence, XmlElementType_Element, "wild"),
+                                      Entries({new CElementInfoSeqUntpdMnd("w", TestNs, 0, "##any", TestNs)}),
+                                      Attributes({})};
+    const auto readWild = [](const char *text) {
+        CSmartPtr<CTestObject> object = new CTestObject(wildcard, 1);
+        object->Property(0).SetXmlObject(new CElement("w", "", "##any", TestNs));
+        object->FromXml(text);
+    };
+    EXPECT_EQ("Failed to find the required element from namespace [urn:t].\nPath: /wild",
+              MessageOf([&] { readWild("<wild xmlns=\"urn:t\"><v/></wild>"); }));
+    EXPECT_EQ("Failed to find the required child element [w].\nPath: /wild",
+              MessageOf([&] { readWild("<wild xmlns=\"urn:t\"/>"); }));
+}
+
+TEST(MetadataEntry, MandatorySearchSkipsStrangersOnlyWhenAllowed)
+{
+    static const CTestTables tables{Parent(XmlElementGroupType_Sequence, XmlElementType_Element, "m"),
+                                    Entries({Mandatory("x", 0)}), Attributes({})};
+    CSerializationContext skipping;
+    skipping.SetIgnoreUnknownElements(true);
+    EXPECT_EQ("1", Read(tables, 1, "<m xmlns=\"urn:t\"><u/><v/><x>1</x></m>", skipping)->Property(0).GetString());
+    EXPECT_EQ("Failed to find the required child element [x].\nPath: /m",
+              MessageOf([&] { Read(tables, 1, "<m xmlns=\"urn:t\"><u/><v/></m>", skipping); }));
+}
+
+TEST(MetadataEntry, DefaultsAreComparedAsText)
+{
+    CSmartPtr<CTestObject> object = new CTestObject(DefaultTables(), 3);
+    object->Property(0).SetR8(1.0);
+    object->Property(1).SetString("x");
+    object->Property(2).SetNil();
+    CSerializationContext context;
+    context.SetDefaultNamespaceURI(TestNs);
+    context.GetNamespaceAliases().Add("xsi", "http://www.w3.org/2001/XMLSchema-instance");
+    context.SetNoOptionalAttributeDefaultOutput(true);
+    // 1 is not the text "1.0", and a required attribute is written whatever its value.
+    EXPECT_EQ("<defaults xmlns=\"urn:t\" xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" r=\"1\" q=\"x\">"
+              "<n xsi:nil=\"true\"/></defaults>",
+              object->ToXml(false, false, EOLType_LF, context));
+    // A nil primitive element leaves its property alone.
+    CSmartPtr<CTestObject> back = Read(DefaultTables(), 3,
+                                       "<defaults xmlns=\"urn:t\" xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" "
+                                       "q=\"x\"><n xsi:nil=\"1\">7</n></defaults>");
+    EXPECT_FALSE(back->Property(2).IsValid());
+    back = Read(DefaultTables(), 3,
+                "<defaults xmlns=\"urn:t\" xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" q=\"x\">"
+                "<n xsi:nil=\"false\">7</n></defaults>");
+    EXPECT_EQ(7, back->Property(2).GetI4());
+    // Without a default, an empty i4 fails in its conversion.
+    EXPECT_NE("no exception", MessageOf([] { Read(DefaultTables(), 3, "<defaults xmlns=\"urn:t\" q=\"x\"><n/></defaults>"); }));
+}
+
+TEST(MetadataEntry, WildcardDefaultNamespace)
+{
+    EXPECT_EQ("urn:o", CExposedEntry::GetAnyDefaultNamespace("##any", "urn:o", "urn:d"));
+    EXPECT_EQ("", CExposedEntry::GetAnyDefaultNamespace("##other", "urn:o", "urn:d"));
+    EXPECT_EQ("DefaultNamespace", CExposedEntry::GetAnyDefaultNamespace("##other", "", "urn:d"));
+    EXPECT_EQ("", CExposedEntry::GetAnyDefaultNamespace("##local", "urn:o", "urn:d"));
+    EXPECT_EQ("urn:d", CExposedEntry::GetAnyDefaultNamespace("##targetNamespace", "urn:o", "urn:d"));
+    EXPECT_EQ("urn:d", CExposedEntry::GetAnyDefaultNamespace("##targetNamespace ##local", "urn:o", "urn:d"));
+    EXPECT_EQ("", CExposedEntry::GetAnyDefaultNamespace("urn:x urn:y", "urn:o", "urn:d"));
+}

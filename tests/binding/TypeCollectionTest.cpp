@@ -1,0 +1,219 @@
+#include <gtest/gtest.h>
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "ExceptionAssert.h"
+#include "TextStream.h"
+#include "TypeCollections.h"
+#include "XmlDocument.h"
+#include "XmlTextWriter.h"
+
+using namespace VxXmlLib16;
+using VxTest::Throws;
+
+namespace {
+
+using Rule = CWhitespaceUtils::WhitespaceRule;
+
+// Opens the protected tree operations, as the metadata of a generated class would use them.
+template <class Col>
+class Open : public Col
+{
+public:
+    explicit Open(const char *maxInclusive = "", int minOccurs = 0, Rule rule = CWhitespaceUtils::WhitespaceRule_Collapse,
+                  const char *format = nullptr)
+        : Col("v", "urn:t", minOccurs, -1, "", -1, -1, "", maxInclusive, "", "", -1, -1, -1, rule, format)
+    {
+    }
+    using Col::FromXml_Int;
+    using Col::ToXml_Int;
+};
+
+// Two canonical texts per member: each reads back and writes out unchanged.
+template <class Col>
+const std::array<const char *, 2> kTexts;
+// clang-format off
+template <> const std::array<const char *, 2> kTexts<ChexBinaryCol> = {"0AFF", "C0DE"};
+template <> const std::array<const char *, 2> kTexts<Cbase64BinaryCol> = {"AAEC", "/+8="};
+template <> const std::array<const char *, 2> kTexts<Ci1Col> = {"-5", "127"};
+template <> const std::array<const char *, 2> kTexts<Ci2Col> = {"-32768", "7"};
+template <> const std::array<const char *, 2> kTexts<Ci4Col> = {"-2147483648", "42"};
+template <> const std::array<const char *, 2> kTexts<Ci8Col> = {"-9223372036854775808", "1"};
+template <> const std::array<const char *, 2> kTexts<Cui1Col> = {"255", "0"};
+template <> const std::array<const char *, 2> kTexts<Cui2Col> = {"65535", "3"};
+template <> const std::array<const char *, 2> kTexts<Cui4Col> = {"4294967295", "9"};
+template <> const std::array<const char *, 2> kTexts<Cui8Col> = {"18446744073709551615", "8"};
+template <> const std::array<const char *, 2> kTexts<Cr4Col> = {"1.5", "-INF"};
+template <> const std::array<const char *, 2> kTexts<Cr8Col> = {"-2.25", "NaN"};
+template <> const std::array<const char *, 2> kTexts<CdurationCol> = {"P1DT2H", "-P3Y"};
+template <> const std::array<const char *, 2> kTexts<CyearMonthCol> = {"2024-02", "-0044-03"};
+template <> const std::array<const char *, 2> kTexts<CmonthDayCol> = {"--02-29", "--12-31"};
+template <> const std::array<const char *, 2> kTexts<CyearCol> = {"2024", "1999"};
+template <> const std::array<const char *, 2> kTexts<CmonthCol> = {"--02", "--12"};
+template <> const std::array<const char *, 2> kTexts<CdayCol> = {"---09", "---31"};
+template <> const std::array<const char *, 2> kTexts<CdateCol> = {"2024-02-29", "1999-12-31Z"};
+template <> const std::array<const char *, 2> kTexts<CdatetimeCol> = {"2024-02-29T10:20:30", "2000-01-01T00:00:00Z"};
+template <> const std::array<const char *, 2> kTexts<CtimeCol> = {"10:20:30Z", "23:59:59"};
+template <> const std::array<const char *, 2> kTexts<CstringCol> = {"a &lt; b", "x"};
+template <> const std::array<const char *, 2> kTexts<CbooleanCol> = {"true", "false"};
+template <> const std::array<const char *, 2> kTexts<CdecimalCol> = {"-20.25", "123456789012345678901234567890.5"};
+template <> const std::array<const char *, 2> kTexts<CintegerCol> = {"-123456789012345678901234567890", "0"};
+// clang-format on
+
+// Records events as "Add", "AddComplete", "Change", "Remove:0", "RemoveComplete:null".
+class Recorder : public IEventSink
+{
+public:
+    void OnEvent(CXmlObjectBase *, MsgType type, void *data) override
+    {
+        static const char *names[] = {"Change", "Add", "AddComplete", "Remove", "RemoveComplete"};
+        std::string entry = names[type];
+        if (type == MsgType_CollectionRemove || type == MsgType_CollectionRemoveComplete)
+            entry += data ? ":" + std::to_string(*static_cast<int *>(data)) : ":null";
+        events.push_back(entry);
+    }
+    std::vector<std::string> events;
+};
+using Events = std::vector<std::string>;
+
+// Writes the collection inside <r xmlns="urn:t">, unformatted.
+template <class Col>
+std::string Write(const Open<Col> &col, const CSerializationContext &context = CSerializationContext())
+{
+    CTextStream stream(XmlEncoding_None);
+    CXmlTextWriter writer(&stream);
+    writer.StartDocument();
+    writer.SetFormatted(false);
+    writer.SetDefaultNamespace("urn:t");
+    writer.StartElement("r", "urn:t");
+    col.ToXml_Int(&writer, false, "urn:t", context, false);
+    writer.EndElement();
+    writer.EndDocument();
+    return std::string(stream.GetText(), stream.GetLength());
+}
+
+// Reads the items of "<r xmlns='urn:t'>" + items + "<w/></r>" into the collection and
+// checks that reading stops at <w>.
+template <class Col>
+void Read(Open<Col> &col, const std::string &items, const CSerializationContext &context = CSerializationContext())
+{
+    CXmlDocument document(context);
+    document.LoadXml(("<r xmlns='urn:t'>" + items + "<w/></r>").c_str());
+    CXmlElement *root = document.GetDocumentElement();
+    CXmlElement *rest = col.FromXml_Int(root, root->GetFirstElement(), context, false);
+    ASSERT_NE(nullptr, rest);
+    EXPECT_EQ("w", rest->GetLocalName());
+}
+
+template <class Col>
+class TypeCollection : public ::testing::Test
+{
+};
+using Members = ::testing::Types<ChexBinaryCol, Cbase64BinaryCol, Ci1Col, Ci2Col, Ci4Col, Ci8Col, Cui1Col, Cui2Col,
+                                 Cui4Col, Cui8Col, Cr4Col, Cr8Col, CdurationCol, CyearMonthCol, CmonthDayCol, CyearCol,
+                                 CmonthCol, CdayCol, CdateCol, CdatetimeCol, CtimeCol, CstringCol, CbooleanCol,
+                                 CdecimalCol, CintegerCol>;
+TYPED_TEST_SUITE(TypeCollection, Members);
+
+} // namespace
+
+TYPED_TEST(TypeCollection, ReadsAndWritesItsItemsInOrder)
+{
+    CSmartPtr<Open<TypeParam>> col(new Open<TypeParam>);
+    const auto &texts = kTexts<TypeParam>;
+    Read(*col, std::string("<v>") + texts[0] + "</v><v> " + texts[1] + "\n</v>");
+    ASSERT_EQ(2, col->GetCount());
+    EXPECT_EQ(std::string("<r xmlns=\"urn:t\"><v>") + texts[0] + "</v><v>" + texts[1] + "</v></r>", Write(*col));
+}
+
+TYPED_TEST(TypeCollection, EventsAndIndexRules)
+{
+    Recorder recorder; // outlives the collection
+    CSmartPtr<Open<TypeParam>> col(new Open<TypeParam>);
+    Read(*col, std::string("<v>") + kTexts<TypeParam>[0] + "</v>");
+    const auto first = col->Item(0);
+    col->AddEventListener(&recorder);
+
+    // The Add event goes out before the index test; Remove reports the real index.
+    EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { col->AddAt(5, first); }, "Index out of range"));
+    EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { col->Remove(1); }, "Index 1 is out of range, use 0 - 1"));
+    EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { col->Item(-1); }, "Index -1 is out of range, use 0 - 1"));
+    EXPECT_EQ((Events{"Add", "Remove:1"}), recorder.events);
+
+    recorder.events.clear();
+    col->AddAt(0, first);
+    col->Add(first);
+    col->Remove(2);
+    EXPECT_EQ(2, col->GetCount());
+    col->Clear();
+    EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { col->Remove(0); }, "Index 0 is out of range, use 0 - 0"));
+    EXPECT_EQ((Events{"Add", "AddComplete", "Change", "Add", "AddComplete", "Change", "Remove:2", "RemoveComplete:2",
+                      "Change", "Remove:0", "RemoveComplete:0", "Change", "Remove:0", "RemoveComplete:0", "Change",
+                      "Remove:0"}),
+              recorder.events);
+}
+
+TEST(TypeCollectionFacets, FailureOnAddOrReadLeavesListUnchangedWithoutEvents)
+{
+    Recorder recorder;
+    CSmartPtr<Open<Ci4Col>> col(new Open<Ci4Col>("10"));
+    col->AddEventListener(&recorder);
+    col->Add(10);
+    recorder.events.clear();
+    EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { col->AddAt(7, 11); }, "Invalid Value for v [11]"));
+    // Reading converts first, so a facet failure comes from Add, a bad text from the conversion.
+    EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { Read(*col, "<v>9</v><v>12</v>"); }, "Invalid Value for v [12]"));
+    EXPECT_THROW(Read(*col, "<v>x</v>"), CVxInvalidValueException);
+    EXPECT_EQ((Events{"Add", "AddComplete", "Change"}), recorder.events);
+    EXPECT_EQ((std::vector<std::int32_t>{10, 9}), std::vector<std::int32_t>(col->begin(), col->end()));
+}
+
+TEST(TypeCollectionDates, EachTakesOnlyItsOwnDateType)
+{
+    const CDateTime year(CDateTime::dt_gYear);
+    EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { Open<CdatetimeCol>().Add(year); },
+                                                  "Dates added to this collection must be of type dt_dateTime"));
+    EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { Open<CdateCol>().Add(year); },
+                                                  "Dates added to this collection must be of type dt_date"));
+    EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { Open<CyearMonthCol>().Add(year); },
+                                                  "Dates added to this collection must be of type dt_gYearMonth"));
+    EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { Open<CtimeCol>().Add(year); },
+                                                  "Dates added to this collection must be of type dt_time"));
+    Recorder recorder;
+    Open<CmonthDayCol> monthDays;
+    monthDays.AddEventListener(&recorder);
+    EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { monthDays.AddAt(0, year); },
+                                                  "Dates added to this collection must be of type dt_gMonthDay"));
+    EXPECT_TRUE(recorder.events.empty());
+    // Date bounds are read as the collection's own type.
+    Open<CdateCol> dates("2000-01-01");
+    EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { Read(dates, "<v>2000-01-02</v>"); },
+                                                  "Invalid Value for v [2000-01-02]."));
+}
+
+TEST(TypeCollectionOptions, CountFormatOverrideAndWhitespaceRule)
+{
+    CSmartPtr<Open<Ci4Col>> required(new Open<Ci4Col>("", 1));
+    EXPECT_TRUE(Throws<CVxValidationException>([&] { Write(*required); },
+                                               "The Minimum number of [v] elements allowed in this collection is 1"));
+    CSerializationContext lenient;
+    lenient.SetIgnoreInvalidCollectionCounts(true);
+    EXPECT_EQ(Write(Open<Ci4Col>()), Write(*required, lenient));
+
+    const Rule collapse = CWhitespaceUtils::WhitespaceRule_Collapse;
+    CSmartPtr<Open<Cr8Col>> reals(new Open<Cr8Col>("", 0, collapse, "%.2f"));
+    CSmartPtr<Open<CdecimalCol>> decimals(new Open<CdecimalCol>("", 0, collapse, "3"));
+    Read(*reals, "<v>1.5</v>");
+    Read(*decimals, "<v>1.5</v>");
+    EXPECT_EQ("<r xmlns=\"urn:t\"><v>1.50</v></r>", Write(*reals));
+    EXPECT_EQ("<r xmlns=\"urn:t\"><v>1.500</v></r>", Write(*decimals));
+
+    CSmartPtr<Open<CstringCol>> kept(new Open<CstringCol>("", 0, CWhitespaceUtils::WhitespaceRule_Preserve));
+    CSmartPtr<Open<CstringCol>> collapsed(new Open<CstringCol>);
+    Read(*kept, "<v> a  b </v>");
+    Read(*collapsed, "<v> a  b </v>");
+    EXPECT_EQ(" a  b ", kept->Item(0));
+    EXPECT_EQ("a b", collapsed->Item(0));
+}
