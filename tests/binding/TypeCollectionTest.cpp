@@ -95,16 +95,14 @@ std::string Write(const Open<Col> &col, const CSerializationContext &context = C
 }
 
 // Reads the items of "<r xmlns='urn:t'>" + items + "<w/></r>" into the collection and
-// checks that reading stops at <w>.
+// returns the name of the element where reading stopped.
 template <class Col>
-void Read(Open<Col> &col, const std::string &items, const CSerializationContext &context = CSerializationContext())
+std::string Read(Open<Col> &col, const std::string &items, const CSerializationContext &context = CSerializationContext())
 {
     CXmlDocument document(context);
     document.LoadXml(("<r xmlns='urn:t'>" + items + "<w/></r>").c_str());
     CXmlElement *root = document.GetDocumentElement();
-    CXmlElement *rest = col.FromXml_Int(root, root->GetFirstElement(), context, false);
-    ASSERT_NE(nullptr, rest);
-    EXPECT_EQ("w", rest->GetLocalName());
+    return col.FromXml_Int(root, root->GetFirstElement(), context, false)->GetLocalName();
 }
 
 template <class Col>
@@ -123,7 +121,7 @@ TYPED_TEST(TypeCollection, ReadsAndWritesItsItemsInOrder)
 {
     CSmartPtr<Open<TypeParam>> col(new Open<TypeParam>);
     const auto &texts = kTexts<TypeParam>;
-    Read(*col, std::string("<v>") + texts[0] + "</v><v> " + texts[1] + "\n</v>");
+    EXPECT_EQ("w", Read(*col, std::string("<v>") + texts[0] + "</v><v> " + texts[1] + "\n</v>"));
     ASSERT_EQ(2, col->GetCount());
     EXPECT_EQ(std::string("<r xmlns=\"urn:t\"><v>") + texts[0] + "</v><v>" + texts[1] + "</v></r>", Write(*col));
 }
@@ -132,26 +130,29 @@ TYPED_TEST(TypeCollection, EventsAndIndexRules)
 {
     Recorder recorder; // outlives the collection
     CSmartPtr<Open<TypeParam>> col(new Open<TypeParam>);
-    Read(*col, std::string("<v>") + kTexts<TypeParam>[0] + "</v>");
-    const auto first = col->Item(0);
+    const auto &texts = kTexts<TypeParam>;
+    Read(*col, std::string("<v>") + texts[0] + "</v><v>" + texts[1] + "</v>");
+    const auto a = col->Item(0), b = col->Item(1);
     col->AddEventListener(&recorder);
 
     // The Add event goes out before the index test; Remove reports the real index.
-    EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { col->AddAt(5, first); }, "Index out of range"));
-    EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { col->Remove(1); }, "Index 1 is out of range, use 0 - 1"));
-    EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { col->Item(-1); }, "Index -1 is out of range, use 0 - 1"));
-    EXPECT_EQ((Events{"Add", "Remove:1"}), recorder.events);
+    EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { col->AddAt(3, a); }, "Index out of range"));
+    EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { col->Remove(2); }, "Index 2 is out of range, use 0 - 2"));
+    EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { col->Item(-1); }, "Index -1 is out of range, use 0 - 2"));
+    EXPECT_EQ((Events{"Add", "Remove:2"}), recorder.events);
 
     recorder.events.clear();
-    col->AddAt(0, first);
-    col->Add(first);
-    col->Remove(2);
-    EXPECT_EQ(2, col->GetCount());
+    col->AddAt(1, b); // a b b
+    col->AddAt(0, b); // b a b b
+    col->Remove(3);
+    EXPECT_EQ(std::string("<r xmlns=\"urn:t\"><v>") + texts[1] + "</v><v>" + texts[0] + "</v><v>" + texts[1] +
+                  "</v></r>",
+              Write(*col));
     col->Clear();
     EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { col->Remove(0); }, "Index 0 is out of range, use 0 - 0"));
-    EXPECT_EQ((Events{"Add", "AddComplete", "Change", "Add", "AddComplete", "Change", "Remove:2", "RemoveComplete:2",
+    EXPECT_EQ((Events{"Add", "AddComplete", "Change", "Add", "AddComplete", "Change", "Remove:3", "RemoveComplete:3",
                       "Change", "Remove:0", "RemoveComplete:0", "Change", "Remove:0", "RemoveComplete:0", "Change",
-                      "Remove:0"}),
+                      "Remove:0", "RemoveComplete:0", "Change", "Remove:0"}),
               recorder.events);
 }
 
@@ -216,4 +217,11 @@ TEST(TypeCollectionOptions, CountFormatOverrideAndWhitespaceRule)
     Read(*collapsed, "<v> a  b </v>");
     EXPECT_EQ(" a  b ", kept->Item(0));
     EXPECT_EQ("a b", collapsed->Item(0));
+
+    // Items are matched by name and namespace, unless namespaces are ignored.
+    CSerializationContext ignoring;
+    ignoring.SetIgnoreNamespaces(true);
+    EXPECT_EQ("v", Read(*collapsed, "<v xmlns='urn:o'>c</v>"));
+    EXPECT_EQ("w", Read(*collapsed, "<v xmlns='urn:o'>c</v>", ignoring));
+    EXPECT_EQ(2, collapsed->GetCount());
 }
