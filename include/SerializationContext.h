@@ -7,6 +7,7 @@
 
 #include "Enums.h"
 #include "NamespaceAliasMap.h"
+#include "SmartPtr.h"
 #include "VxXmlLib16Fwd.h"
 
 namespace VxXmlLib16 {
@@ -30,6 +31,12 @@ public:
     CNamespaceAliasMap &GetNamespaceAliases() { return m_namespaceAliases; }
     const std::vector<std::string> &GetProcessingInstructions() const { return m_processingInstructions; }
     std::vector<std::string> &GetProcessingInstructions() { return m_processingInstructions; }
+    // Written on the root before its own attributes. Created on first use (empty
+    // namespace, rule "##any") and shared by the copies made after that.
+    CSmartPtr<CAttributeCol> GetAdditionalRootAttributes() const;
+    // The same collection, or null while nobody asked for it: the writers' way to it,
+    // so that writing through a shared context never creates anything.
+    const CAttributeCol *FindAdditionalRootAttributes() const { return m_additionalRootAttributes; }
     std::string GetInLineSchema() const { return m_inlineSchema; }
     void SetInLineSchema(const char *schema) { m_inlineSchema = schema ? schema : ""; }
     bool GetIgnoreInvalidCollectionCounts() const { return m_ignoreInvalidCollectionCounts; }
@@ -63,6 +70,7 @@ private:
     std::string m_defaultNamespaceUri;
     bool m_writeTypeAttribute = true;
     CNamespaceAliasMap m_namespaceAliases;
+    mutable CSmartPtr<CAttributeCol> m_additionalRootAttributes;
     std::vector<std::string> m_processingInstructions;
     std::string m_inlineSchema;
     bool m_ignoreInvalidCollectionCounts = false;

@@ -2,6 +2,8 @@
 // Forward declarations of the library's classes, so that headers name each other
 // without pulling each other in.
 
+#include <cstdint>
+
 class CInstanceMonitor;
 class CVXCriticalSection;
 template <class T> class CSmartPtr;
@@ -65,3 +67,12 @@ class CFastInfosetContext;
 class CPrimitiveRestrictions;
 struct VxVariant;
 } // namespace VxXmlLib16
+
+namespace VxXmlLib16Data {
+class CParentElementInfo;
+class CElementInfo;
+class CAttributeInfo;
+class CCollectionElementInfo;
+enum XmlElementGroupType : std::int32_t;
+enum XmlElementType : std::int32_t;
+} // namespace VxXmlLib16Data

@@ -25,6 +25,10 @@ bool IsAsyncFromXmlFile();
 
 class CXmlObjectBase : public IEventSink
 {
+    // The metadata entries drive the protected operations of the objects they describe.
+    friend class VxXmlLib16Data::CElementInfo;
+    friend class VxXmlLib16Data::CAttributeInfo;
+
 public:
     CXmlObjectBase() = default;
     // Both copy the reference count too: a copy of a live object starts with its

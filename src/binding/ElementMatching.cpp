@@ -1,5 +1,6 @@
 #include "XmlObjectBase.h"
 
+#include "XmlCollectionBase.h"
 #include "XmlDocument.h"
 
 namespace VxXmlLib16 {
@@ -13,6 +14,20 @@ bool CXmlObjectBase::DoesElementNameMatch(const CSerializationContext &context, 
     if (context.GetIgnoreNamespaces())
         return true;
     return element->GetNamespaceURI() == (namespaceUri ? namespaceUri : "");
+}
+
+void CXmlObjectBase::Choice_Read_Collection(CXmlCollectionBase *collection, CXmlElement *parent,
+                                            CXmlElement *&cursor, std::int32_t &count,
+                                            const CSerializationContext &context)
+{
+    if (count >= 1)
+        return;
+    CXmlElement *next = FromXml_Int(collection, parent, cursor, context);
+    if (next != cursor) {
+        cursor = next;
+        collection->ValidateCount(context);
+        ++count;
+    }
 }
 
 } // namespace VxXmlLib16

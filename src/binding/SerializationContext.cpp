@@ -1,6 +1,7 @@
 #include "SerializationContext.h"
 
 #include "Exceptions.h"
+#include "Wildcards.h"
 
 namespace VxXmlLib16 {
 
@@ -11,6 +12,13 @@ CSerializationContext::CSerializationContext(const CSerializationContext &other)
 CSerializationContext &CSerializationContext::operator=(const CSerializationContext &other) = default;
 
 CSerializationContext::~CSerializationContext() = default;
+
+CSmartPtr<CAttributeCol> CSerializationContext::GetAdditionalRootAttributes() const
+{
+    if (!m_additionalRootAttributes)
+        m_additionalRootAttributes = new CAttributeCol("", "##any", "");
+    return m_additionalRootAttributes;
+}
 
 CSerializationContext &CSerializationContext::GetDefaultContext()
 {

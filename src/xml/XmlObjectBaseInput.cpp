@@ -2,7 +2,8 @@
 
 #include "BinaryData.h"
 #include "XmlDocument.h"
-#include "binding/UnavailableRoute.h"
+#include "Exceptions.h"
+#include "Wildcards.h"
 
 namespace VxXmlLib16 {
 
@@ -48,9 +49,14 @@ void CXmlObjectBase::FromXmlStream(unsigned char *const data, std::uint32_t leng
     FromXml_Int(root, root->GetFirstElement(), context, false);
 }
 
-void CXmlObjectBase::FromXmlElement(const CElement *, const CSerializationContext &)
+// A wildcard element goes through its text on purpose, always rendered with the
+// default options, so that the object reads it like any document.
+void CXmlObjectBase::FromXmlElement(const CElement *element, const CSerializationContext &context)
 {
-    ThrowUnavailableRoute("FromXmlElement");
+    if (!element)
+        throw CVxInvalidParamException("The element to read from is NULL");
+    const std::string text = element->ToXml(false, false, EOLType_LF, CSerializationContext::GetDefaultContext());
+    FromXml(text.c_str(), context);
 }
 
 void CXmlObjectBase::FromXmlElement(const CXmlElement *element, const CSerializationContext &context)

@@ -1,0 +1,204 @@
+#pragma once
+// Small generated classes for the driver and metadata tests, in namespace "urn:t". Their
+// properties live in variants; their tables are built once and freed by CleanMetaData.
+//
+//   basket  (sequence)  owner: person (Cls Mnd), item: item* (Cls Col 1..3),
+//                       pay: payment (pseudo choice, Cls Mnd), memo: note (Cls Opt),
+//                       shipment (AbsCls Opt, xsi:type), price (Cls Opt), ##other any (Untpd Opt)
+//   item    (sequence)  @id i4 required, @unit string of 3+ letters = "cm", @t:kind enum;
+//                       qty i4 >= 1 (Mnd), note string nillable = "none" (Opt), color enum (Opt)
+//   person  (all)       name (Mnd), age i4 (Opt), ##other anyAttribute
+//   payment (pseudo choice) card string | cash decimal
+//   memo    (sequence, nillable class) text
+//   shipment / courier  (sequence; courier derives from shipment)
+//   price   (simple content decimal) @cur
+//   pick    (choice of two collections with a minimum of 1)
+//   bad     (all group with a collection)
+
+#include <string>
+#include <vector>
+
+#include "VxXmlLib16.h"
+
+namespace VxTest {
+
+namespace vx = VxXmlLib16;
+namespace vd = VxXmlLib16Data;
+
+constexpr const char *TestNs = "urn:t";
+
+// The three tables of one class, freed at exit the way generated code frees them.
+struct CTestTables
+{
+    vd::CParentElementInfo *info;
+    vd::CElementInfo **elements;
+    vd::CAttributeInfo **attributes;
+    ~CTestTables() { vx::CXmlGeneratedClass::CleanMetaData(info, elements, attributes); }
+};
+
+class CTestObject : public vx::CXmlGeneratedClass
+{
+public:
+    CTestObject(const CTestTables &tables, int propertyCount);
+    vx::CXmlObjectBase *GetBase() override { return this; }
+    std::string GetTargetNamespace() const override { return TestNs; }
+    std::string GetNamespace() const override { return TestNs; }
+    void AccessProperty(int propertyIndex, bool read, vx::VxVariant &value) override;
+    vd::CParentElementInfo *GetClassInfo() const override { return m_tables.info; }
+    vd::CElementInfo **GetClassElementInfo() const override { return m_tables.elements; }
+    vd::CAttributeInfo **GetClassAttributeInfo() const override { return m_tables.attributes; }
+    void Init() override;
+
+    vx::VxVariant &Property(int index) { return m_properties[index]; }
+    template <class T>
+    T *Child(int index) const
+    {
+        return static_cast<T *>(static_cast<vx::CXmlObjectBase *>(m_properties[index].GetXmlObject()));
+    }
+    std::string Name() const { return GetElementName(); }
+    void Rename(const char *name) { SetElementName(name); }
+    // The setter of this property refuses every value, as a generated range check would.
+    int m_failingSetter = -1;
+
+protected:
+    // Mandatory children and collections that the generated constructor makes.
+    virtual void CreateChildren() {}
+
+private:
+    const CTestTables &m_tables;
+    std::vector<vx::VxVariant> m_properties;
+};
+
+// A generated collection of objects of one element name.
+template <class T>
+class CTestObjectCol : public vx::CXmlCollection
+{
+public:
+    CTestObjectCol(const char *itemName, int minOccurs, int maxOccurs)
+        : vx::CXmlCollection(itemName, TestNs, minOccurs, maxOccurs)
+    {
+    }
+    vx::CXmlObjectBase *GetBase() override { return this; }
+    void Add(T *item) { AppendItem(item); }
+    T *Item(int index) const
+    {
+        return static_cast<T *>(static_cast<vx::CXmlObjectBase *>(GetNodeAtIndex(index)->item));
+    }
+
+protected:
+    void ToXml_Int(vx::CXmlWriter *writer, bool, const char *namespaceUri, const vx::CSerializationContext &context,
+                   bool) const override
+    {
+        for (auto item = begin<T>(); item != end<T>(); ++item)
+            vx::CXmlObjectBase::ToXml_Int(*item, writer, false, namespaceUri, context, false);
+    }
+    vx::CXmlElement *FromXml_Int(vx::CXmlElement *, vx::CXmlElement *cursor, const vx::CSerializationContext &context,
+                                 bool) override
+    {
+        const std::string name = GetElementName();
+        while (DoesElementNameMatch(context, cursor, name.c_str(), TestNs)) {
+            CSmartPtr<T> item = new T();
+            vx::CXmlObjectBase::FromXml_Int(item, cursor, cursor->GetFirstElement(), context);
+            AppendItem(item);
+            cursor = cursor->GetNextSiblingElement();
+        }
+        return cursor;
+    }
+};
+
+enum Color { Color_red, Color_green };
+const char *ColorToString(int value);
+int ColorFromString(const char *text);
+
+class CItem final : public CTestObject
+{
+public:
+    enum { Id, Unit, Kind, Qty, Note, ColorProperty, Count };
+    CItem();
+};
+
+class CPerson final : public CTestObject
+{
+public:
+    enum { Name, Age, Extra, Count };
+    CPerson();
+
+protected:
+    void CreateChildren() override;
+};
+
+class CPayment final : public CTestObject
+{
+public:
+    enum { Card, Cash, Count };
+    CPayment();
+};
+
+class CNote final : public CTestObject, public vx::INillable
+{
+public:
+    enum { Text, Count };
+    CNote();
+    bool IsNil() const override { return m_nil; }
+    void SetNil(bool nil) override { m_nil = nil; }
+    void Init() override;
+
+private:
+    bool m_nil = false;
+};
+
+class CShipment : public CTestObject
+{
+public:
+    enum { Date, Carrier };
+    CShipment();
+
+protected:
+    CShipment(const CTestTables &tables, int propertyCount) : CTestObject(tables, propertyCount) {}
+};
+
+class CCourier final : public CShipment
+{
+public:
+    CCourier();
+};
+
+class CPrice final : public CTestObject
+{
+public:
+    enum { Value, Currency, Count };
+    CPrice();
+};
+
+class CBasket final : public CTestObject
+{
+public:
+    enum { Owner, Items, Pay, Memo, ShipmentProperty, PriceProperty, Any, Count };
+    CBasket();
+    CTestObjectCol<CItem> *Lines() const;
+
+protected:
+    void CreateChildren() override;
+};
+
+class CPick final : public CTestObject
+{
+public:
+    enum { Items, People, Count };
+    CPick();
+
+protected:
+    void CreateChildren() override;
+};
+
+class CBadAll final : public CTestObject
+{
+public:
+    enum { Items, Count };
+    CBadAll();
+
+protected:
+    void CreateChildren() override;
+};
+
+} // namespace VxTest
