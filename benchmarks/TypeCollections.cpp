@@ -22,8 +22,8 @@ class Open : public Col
 {
 public:
     Open()
-        : Col("v", "urn:bench", 0, -1, "", -1, -1, "", "", "", "", -1, -1, -1, CWhitespaceUtils::WhitespaceRule_Collapse,
-              nullptr)
+        : Col("v", "urn:bench", 0, -1, "", -1, -1, "", "", "", "", -1, -1, -1,
+              CWhitespaceUtils::WhitespaceRule_Collapse, nullptr)
     {
     }
     using Col::FromXml_Int;
