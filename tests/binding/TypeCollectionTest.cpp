@@ -130,15 +130,18 @@ protected:
     }
 
 private:
+    static CElementInfo *Entry()
+    {
+        if (Group == XmlElementGroupType_Choice)
+            return new CElementInfoChoicePrimCol("v", VxTest::TestNs, 0);
+        return new CElementInfoSeqPrimCol("v", VxTest::TestNs, 0);
+    }
     static const VxTest::CTestTables &Tables()
     {
-        CElementInfo *entry = Group == XmlElementGroupType_Choice
-                                  ? static_cast<CElementInfo *>(new CElementInfoChoicePrimCol("v", VxTest::TestNs, 0))
-                                  : new CElementInfoSeqPrimCol("v", VxTest::TestNs, 0);
         static const VxTest::CTestTables tables{
             new CParentElementInfo(Group, XmlElementType_Element, "h", VxTest::TestNs, true, false, -1,
                                    ItemType_Invalid, nullptr, false),
-            new CElementInfo *[2] { entry, nullptr }, new CAttributeInfo *[1] { nullptr }};
+            new CElementInfo *[2] { Entry(), nullptr }, new CAttributeInfo *[1] { nullptr }};
         return tables;
     }
 
