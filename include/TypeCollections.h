@@ -17,8 +17,7 @@
 #include "InstanceMonitor.h"
 #include "XmlTypeCollection.h"
 
-namespace VxXmlLib16
-{
+namespace VxXmlLib16 {
 
 class CdatetimeBaseCol : public CXmlValueCollection<CDateTime>
 {
@@ -29,14 +28,16 @@ protected:
     void TestDateType(const CDateTime &value) const;
 };
 
+template <class Value>
+using CTypedCollectionBase =
+    std::conditional_t<std::is_same_v<Value, CDateTime>, CdatetimeBaseCol, CXmlValueCollection<Value>>;
+
 // One member of the family: Member supplies the class name, the rest is its row of
 // the table. ToText takes the format override where the type has one (r4, r8, decimal).
 template <class Member, class Value, ItemType Type, auto ToText, auto FromText>
-class CTypedCollection
-    : public std::conditional_t<std::is_same_v<Value, CDateTime>, CdatetimeBaseCol, CXmlValueCollection<Value>>,
-      private CInstanceMonitor
+class CTypedCollection : public CTypedCollectionBase<Value>, private CInstanceMonitor
 {
-    using Base = std::conditional_t<std::is_same_v<Value, CDateTime>, CdatetimeBaseCol, CXmlValueCollection<Value>>;
+    using Base = CTypedCollectionBase<Value>;
 
 public:
     CTypedCollection(const char *itemName, const char *itemNamespace, int minOccurs, int maxOccurs, const char *pattern,
@@ -70,7 +71,8 @@ protected:
 private:
     // A value that fails its type test or its facets leaves the list as it was and
     // fires no event.
-    template <class V> void InsertChecked(int index, V &&value)
+    template <class V>
+    void InsertChecked(int index, V &&value)
     {
         if constexpr (std::is_same_v<Value, CDateTime>)
             this->TestDateType(value);

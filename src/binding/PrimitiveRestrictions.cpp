@@ -103,7 +103,8 @@ void CheckInteger(const char *name, T value, const CPrimitiveRestrictions &r, Pa
                   std::string (*toString)(T), bool withTotalDigits)
 {
     bool valid = PassesBounds(value, r, parse);
-    if (valid && withTotalDigits)
+    // The text is made only when the facet is set: typed collections check every item.
+    if (valid && withTotalDigits && r.GetTotalDigits() != -1)
         valid = PassesTotalDigits(toString(value), r);
     if (!valid)
         Fail(FormatString("Invalid Value for %s [%d]", name, static_cast<int>(value)));

@@ -4,13 +4,16 @@
 #include <string>
 #include <vector>
 
+#include "ElementInfo.h"
 #include "ExceptionAssert.h"
+#include "GeneratedTestClasses.h"
 #include "TextStream.h"
 #include "TypeCollections.h"
 #include "XmlDocument.h"
 #include "XmlTextWriter.h"
 
 using namespace VxXmlLib16;
+using namespace VxXmlLib16Data;
 using VxTest::Throws;
 
 namespace {
@@ -22,8 +25,8 @@ template <class Col>
 class Open : public Col
 {
 public:
-    explicit Open(const char *maxInclusive = "", int minOccurs = 0, Rule rule = CWhitespaceUtils::WhitespaceRule_Collapse,
-                  const char *format = nullptr)
+    explicit Open(const char *maxInclusive = "", int minOccurs = 0,
+                  Rule rule = CWhitespaceUtils::WhitespaceRule_Collapse, const char *format = nullptr)
         : Col("v", "urn:t", minOccurs, -1, "", -1, -1, "", maxInclusive, "", "", -1, -1, -1, rule, format)
     {
     }
@@ -95,17 +98,61 @@ std::string Write(const Open<Col> &col, const CSerializationContext &context = C
 }
 
 // Reads the items of "<r xmlns='urn:t'>" + items + "<w/></r>" into the collection and
-// checks that reading stops at <w>.
+// returns the name of the element where reading stopped.
 template <class Col>
-void Read(Open<Col> &col, const std::string &items, const CSerializationContext &context = CSerializationContext())
+std::string Read(Open<Col> &col, const std::string &items,
+                 const CSerializationContext &context = CSerializationContext())
 {
     CXmlDocument document(context);
     document.LoadXml(("<r xmlns='urn:t'>" + items + "<w/></r>").c_str());
     CXmlElement *root = document.GetDocumentElement();
-    CXmlElement *rest = col.FromXml_Int(root, root->GetFirstElement(), context, false);
-    ASSERT_NE(nullptr, rest);
-    EXPECT_EQ("w", rest->GetLocalName());
+    return col.FromXml_Int(root, root->GetFirstElement(), context, false)->GetLocalName();
 }
+
+// A generated class "h" whose only content is the repeating element "v": a sequence
+// entry, or one alternative of a choice.
+template <class Col, XmlElementGroupType Group>
+class CHolder final : public VxTest::CTestObject
+{
+public:
+    explicit CHolder(Rule rule = CWhitespaceUtils::WhitespaceRule_Collapse, const char *format = nullptr)
+        : CTestObject(Tables(), 1), m_rule(rule), m_format(format)
+    {
+        Init();
+    }
+    Col &Items() { return static_cast<Col &>(*Property(0).GetXmlCollection()); }
+
+protected:
+    void CreateChildren() override
+    {
+        Property(0).SetXmlCollection(
+            new Col("v", VxTest::TestNs, 0, -1, "", -1, -1, "", "", "", "", -1, -1, -1, m_rule, m_format));
+    }
+
+private:
+    static CElementInfo *Entry()
+    {
+        if (Group == XmlElementGroupType_Choice)
+            return new CElementInfoChoicePrimCol("v", VxTest::TestNs, 0);
+        return new CElementInfoSeqPrimCol("v", VxTest::TestNs, 0);
+    }
+    static const VxTest::CTestTables &Tables()
+    {
+        static const VxTest::CTestTables tables{
+            new CParentElementInfo(Group, XmlElementType_Element, "h", VxTest::TestNs, true, false, -1,
+                                   ItemType_Invalid, nullptr, false),
+            new CElementInfo *[2] { Entry(), nullptr }, new CAttributeInfo *[1] { nullptr }};
+        return tables;
+    }
+
+    Rule m_rule;
+    const char *m_format;
+};
+
+template <class Col>
+using CSequenceHolder = CHolder<Col, XmlElementGroupType_Sequence>;
+template <class Col>
+using CChoiceHolder = CHolder<Col, XmlElementGroupType_Choice>;
 
 template <class Col>
 class TypeCollection : public ::testing::Test
@@ -119,39 +166,47 @@ TYPED_TEST_SUITE(TypeCollection, Members);
 
 } // namespace
 
-TYPED_TEST(TypeCollection, ReadsAndWritesItsItemsInOrder)
+TYPED_TEST(TypeCollection, RoundTripsThroughGeneratedSequenceAndChoice)
 {
-    CSmartPtr<Open<TypeParam>> col(new Open<TypeParam>);
     const auto &texts = kTexts<TypeParam>;
-    Read(*col, std::string("<v>") + texts[0] + "</v><v> " + texts[1] + "\n</v>");
-    ASSERT_EQ(2, col->GetCount());
-    EXPECT_EQ(std::string("<r xmlns=\"urn:t\"><v>") + texts[0] + "</v><v>" + texts[1] + "</v></r>", Write(*col));
+    const std::string items = std::string("<v>") + texts[0] + "</v><v>" + texts[1] + "</v>";
+    CSmartPtr<CSequenceHolder<TypeParam>> sequence(new CSequenceHolder<TypeParam>);
+    CSmartPtr<CChoiceHolder<TypeParam>> choice(new CChoiceHolder<TypeParam>);
+    sequence->FromXml(("<h xmlns='urn:t'><v>" + std::string(texts[0]) + "</v><v>\t" + texts[1] + " </v></h>").c_str());
+    choice->FromXml(sequence->ToXml(false, false).c_str());
+    EXPECT_EQ(2, choice->Items().GetCount());
+    CSerializationContext plain;
+    plain.SetDefaultNamespaceURI("urn:t");
+    EXPECT_EQ("<h xmlns=\"urn:t\">" + items + "</h>", choice->ToXml(false, false, EOLType_LF, plain));
 }
 
 TYPED_TEST(TypeCollection, EventsAndIndexRules)
 {
     Recorder recorder; // outlives the collection
     CSmartPtr<Open<TypeParam>> col(new Open<TypeParam>);
-    Read(*col, std::string("<v>") + kTexts<TypeParam>[0] + "</v>");
-    const auto first = col->Item(0);
+    const auto &texts = kTexts<TypeParam>;
+    EXPECT_EQ("w", Read(*col, std::string("<v>") + texts[0] + "</v><v> " + texts[1] + "\n</v>"));
+    const auto a = col->Item(0), b = col->Item(1);
     col->AddEventListener(&recorder);
 
     // The Add event goes out before the index test; Remove reports the real index.
-    EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { col->AddAt(5, first); }, "Index out of range"));
-    EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { col->Remove(1); }, "Index 1 is out of range, use 0 - 1"));
-    EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { col->Item(-1); }, "Index -1 is out of range, use 0 - 1"));
-    EXPECT_EQ((Events{"Add", "Remove:1"}), recorder.events);
+    EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { col->AddAt(3, a); }, "Index out of range"));
+    EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { col->Remove(2); }, "Index 2 is out of range, use 0 - 2"));
+    EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { col->Item(-1); }, "Index -1 is out of range, use 0 - 2"));
+    EXPECT_EQ((Events{"Add", "Remove:2"}), recorder.events);
 
     recorder.events.clear();
-    col->AddAt(0, first);
-    col->Add(first);
-    col->Remove(2);
-    EXPECT_EQ(2, col->GetCount());
+    col->AddAt(1, b); // a b b
+    col->AddAt(0, b); // b a b b
+    col->Remove(3);
+    EXPECT_EQ(std::string("<r xmlns=\"urn:t\"><v>") + texts[1] + "</v><v>" + texts[0] + "</v><v>" + texts[1] +
+                  "</v></r>",
+              Write(*col));
     col->Clear();
     EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { col->Remove(0); }, "Index 0 is out of range, use 0 - 0"));
-    EXPECT_EQ((Events{"Add", "AddComplete", "Change", "Add", "AddComplete", "Change", "Remove:2", "RemoveComplete:2",
+    EXPECT_EQ((Events{"Add", "AddComplete", "Change", "Add", "AddComplete", "Change", "Remove:3", "RemoveComplete:3",
                       "Change", "Remove:0", "RemoveComplete:0", "Change", "Remove:0", "RemoveComplete:0", "Change",
-                      "Remove:0"}),
+                      "Remove:0", "RemoveComplete:0", "Change", "Remove:0"}),
               recorder.events);
 }
 
@@ -166,6 +221,7 @@ TEST(TypeCollectionFacets, FailureOnAddOrReadLeavesListUnchangedWithoutEvents)
     // Reading converts first, so a facet failure comes from Add, a bad text from the conversion.
     EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { Read(*col, "<v>9</v><v>12</v>"); }, "Invalid Value for v [12]"));
     EXPECT_THROW(Read(*col, "<v>x</v>"), CVxInvalidValueException);
+    // Only the 9 got in.
     EXPECT_EQ((Events{"Add", "AddComplete", "Change"}), recorder.events);
     EXPECT_EQ((std::vector<std::int32_t>{10, 9}), std::vector<std::int32_t>(col->begin(), col->end()));
 }
@@ -173,14 +229,14 @@ TEST(TypeCollectionFacets, FailureOnAddOrReadLeavesListUnchangedWithoutEvents)
 TEST(TypeCollectionDates, EachTakesOnlyItsOwnDateType)
 {
     const CDateTime year(CDateTime::dt_gYear);
-    EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { Open<CdatetimeCol>().Add(year); },
-                                                  "Dates added to this collection must be of type dt_dateTime"));
-    EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { Open<CdateCol>().Add(year); },
-                                                  "Dates added to this collection must be of type dt_date"));
-    EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { Open<CyearMonthCol>().Add(year); },
-                                                  "Dates added to this collection must be of type dt_gYearMonth"));
-    EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { Open<CtimeCol>().Add(year); },
-                                                  "Dates added to this collection must be of type dt_time"));
+    const auto refused = [&year](CdatetimeBaseCol &&col, const std::string &type) {
+        return Throws<CVxInvalidParamException>([&] { col.Add(year); },
+                                                "Dates added to this collection must be of type " + type);
+    };
+    EXPECT_TRUE(refused(Open<CdatetimeCol>(), "dt_dateTime"));
+    EXPECT_TRUE(refused(Open<CdateCol>(), "dt_date"));
+    EXPECT_TRUE(refused(Open<CyearMonthCol>(), "dt_gYearMonth"));
+    EXPECT_TRUE(refused(Open<CtimeCol>(), "dt_time"));
     Recorder recorder;
     Open<CmonthDayCol> monthDays;
     monthDays.AddEventListener(&recorder);
@@ -202,18 +258,30 @@ TEST(TypeCollectionOptions, CountFormatOverrideAndWhitespaceRule)
     lenient.SetIgnoreInvalidCollectionCounts(true);
     EXPECT_EQ(Write(Open<Ci4Col>()), Write(*required, lenient));
 
+    // Through a generated class: the format override on writing, the whitespace rule on reading.
+    CSerializationContext plain;
+    plain.SetDefaultNamespaceURI("urn:t");
+    const auto roundTrip = [&plain](CXmlObjectBase &holder, const char *items) {
+        holder.FromXml((std::string("<h xmlns='urn:t'>") + items + "</h>").c_str());
+        return holder.ToXml(false, false, EOLType_LF, plain);
+    };
     const Rule collapse = CWhitespaceUtils::WhitespaceRule_Collapse;
-    CSmartPtr<Open<Cr8Col>> reals(new Open<Cr8Col>("", 0, collapse, "%.2f"));
-    CSmartPtr<Open<CdecimalCol>> decimals(new Open<CdecimalCol>("", 0, collapse, "3"));
-    Read(*reals, "<v>1.5</v>");
-    Read(*decimals, "<v>1.5</v>");
-    EXPECT_EQ("<r xmlns=\"urn:t\"><v>1.50</v></r>", Write(*reals));
-    EXPECT_EQ("<r xmlns=\"urn:t\"><v>1.500</v></r>", Write(*decimals));
+    CSmartPtr<CSequenceHolder<Cr8Col>> reals(new CSequenceHolder<Cr8Col>(collapse, "%.2f"));
+    CSmartPtr<CSequenceHolder<CdecimalCol>> decimals(new CSequenceHolder<CdecimalCol>(collapse, "3"));
+    CSmartPtr<CSequenceHolder<CstringCol>> kept(
+        new CSequenceHolder<CstringCol>(CWhitespaceUtils::WhitespaceRule_Preserve));
+    EXPECT_EQ("<h xmlns=\"urn:t\"><v>1.50</v></h>", roundTrip(*reals, "<v> 1.5 </v>"));
+    EXPECT_EQ("<h xmlns=\"urn:t\"><v>1.500</v></h>", roundTrip(*decimals, "<v>1.5</v>"));
+    EXPECT_EQ("<h xmlns=\"urn:t\"><v> a  b </v></h>", roundTrip(*kept, "<v> a  b </v>"));
 
-    CSmartPtr<Open<CstringCol>> kept(new Open<CstringCol>("", 0, CWhitespaceUtils::WhitespaceRule_Preserve));
     CSmartPtr<Open<CstringCol>> collapsed(new Open<CstringCol>);
-    Read(*kept, "<v> a  b </v>");
     Read(*collapsed, "<v> a  b </v>");
-    EXPECT_EQ(" a  b ", kept->Item(0));
     EXPECT_EQ("a b", collapsed->Item(0));
+
+    // Items are matched by name and namespace, unless namespaces are ignored.
+    CSerializationContext ignoring;
+    ignoring.SetIgnoreNamespaces(true);
+    EXPECT_EQ("v", Read(*collapsed, "<v xmlns='urn:o'>c</v>"));
+    EXPECT_EQ("w", Read(*collapsed, "<v xmlns='urn:o'>c</v>", ignoring));
+    EXPECT_EQ(2, collapsed->GetCount());
 }
