@@ -146,6 +146,8 @@ private:
     template <class T>
     T GetHeap(T *Value::*member, bool stored) const;
     void SetCounted(ItemType type, CXmlObjectBase *value);
+    template <class Action>
+    static bool WithHeapMember(ItemType type, Action action);
 
     bool m_nil = false;
     ItemType m_type = ItemType_Invalid;

@@ -50,50 +50,41 @@ VxVariant::VxVariant(const VxVariant &other) { *this = other; }
 
 VxVariant::~VxVariant() { Clear(); }
 
+// Calls action with the union member of a heap form; false for the other forms.
+template <class Action>
+bool VxVariant::WithHeapMember(ItemType type, Action action)
+{
+    switch (type) {
+    case ItemType_hexBinary:
+    case ItemType_base64Binary: action(&Value::binary); return true;
+    case ItemType_duration: action(&Value::duration); return true;
+    case ItemType_yearMonth:
+    case ItemType_monthDay:
+    case ItemType_date:
+    case ItemType_datetime:
+    case ItemType_time: action(&Value::dateTime); return true;
+    case ItemType_string: action(&Value::string); return true;
+    case ItemType_decimal: action(&Value::decimal); return true;
+    case ItemType_integer: action(&Value::integer); return true;
+    default: return false;
+    }
+}
+
 void VxVariant::Clear()
 {
     if (m_type == ItemType_Invalid)
         return;
     m_nil = false;
-    switch (m_type) {
-    case ItemType_hexBinary:
-    case ItemType_base64Binary:
-        delete m_value.binary;
-        m_value.binary = nullptr;
-        break;
-    case ItemType_duration:
-        delete m_value.duration;
-        m_value.duration = nullptr;
-        break;
-    case ItemType_yearMonth:
-    case ItemType_monthDay:
-    case ItemType_date:
-    case ItemType_datetime:
-    case ItemType_time:
-        delete m_value.dateTime;
-        m_value.dateTime = nullptr;
-        break;
-    case ItemType_string:
-        delete m_value.string;
-        m_value.string = nullptr;
-        break;
-    case ItemType_decimal:
-        delete m_value.decimal;
-        m_value.decimal = nullptr;
-        break;
-    case ItemType_integer:
-        delete m_value.integer;
-        m_value.integer = nullptr;
-        break;
-    case ItemType_XmlObject:
-    case ItemType_XmlCollection:
+    const bool heap = WithHeapMember(m_type, [this](auto member) {
+        delete (m_value.*member);
+        m_value.*member = nullptr;
+    });
+    if (!heap && IsCounted(m_type)) {
         if (m_value.object)
             m_value.object->Release();
         m_value.object = nullptr;
-        break;
-    default:
-        break; // scalar bytes stay behind
     }
+    // Scalar bytes stay behind.
     m_type = ItemType_Invalid;
 }
 
@@ -126,46 +117,18 @@ VxVariant &VxVariant::operator=(const VxVariant &other)
     m_nil = other.m_nil;
     if (m_nil)
         return *this;
-    switch (m_type) {
-    case ItemType_Invalid:
-        break;
-    case ItemType_hexBinary:
-    case ItemType_base64Binary:
-        m_value.binary = CopyOf(other.m_value.binary);
-        break;
-    case ItemType_duration:
-        m_value.duration = CopyOf(other.m_value.duration);
-        break;
-    case ItemType_yearMonth:
-    case ItemType_monthDay:
-    case ItemType_date:
-    case ItemType_datetime:
-    case ItemType_time:
-        m_value.dateTime = CopyOf(other.m_value.dateTime);
-        break;
-    case ItemType_string:
-        m_value.string = CopyOf(other.m_value.string);
-        break;
-    case ItemType_decimal:
-        m_value.decimal = CopyOf(other.m_value.decimal);
-        break;
-    case ItemType_integer:
-        m_value.integer = CopyOf(other.m_value.integer);
-        break;
-    case ItemType_XmlObject:
-    case ItemType_XmlCollection:
-        m_value.object = other.m_value.object;
-        if (m_value.object)
-            m_value.object->AddRef();
-        break;
-    default:
-        if (m_type > ItemType_XmlCollection) {
-            m_type = ItemType_Invalid;
-            throw CVxException("Unknown Type");
-        }
-        m_value = other.m_value; // the scalar forms
-        break;
+    if (m_type > ItemType_XmlCollection) {
+        m_type = ItemType_Invalid;
+        throw CVxException("Unknown Type");
     }
+    const bool heap = WithHeapMember(m_type, [this, &other](auto member) {
+        m_value.*member = CopyOf(other.m_value.*member);
+    });
+    if (heap)
+        return *this;
+    m_value = other.m_value; // the scalar forms and the counted pointer
+    if (IsCounted(m_type) && m_value.object)
+        m_value.object->AddRef();
     return *this;
 }
 
