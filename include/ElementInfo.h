@@ -227,6 +227,36 @@ protected:
     }
 };
 
+// An optional member of an all group is satisfied whether it was found or not.
+template <class Base>
+class TAllOpt : public Base
+{
+public:
+    using Base::Base;
+
+protected:
+    bool Validate(const VxXmlLib16::CSerializationContext &, const VxXmlLib16::CXmlGeneratedClass *, bool,
+                  bool) const override
+    {
+        return true;
+    }
+};
+
+// A mandatory member of an all group must have been found when the owner has an element.
+template <class Base>
+class TAllMnd : public TMandatory<Base>
+{
+public:
+    using TMandatory<Base>::TMandatory;
+
+protected:
+    bool Validate(const VxXmlLib16::CSerializationContext &, const VxXmlLib16::CXmlGeneratedClass *, bool found,
+                  bool ownerIsElement) const override
+    {
+        return this->ValidateMandatory(found, ownerIsElement);
+    }
+};
+
 // ---- Primitive and enumeration entries --------------------------------------------
 
 // A single primitive or enumeration child; the public constructors come from TPrim and TEnum.
@@ -292,21 +322,8 @@ protected:
                         const char *targetNamespace, XmlElementType ownerType) override;
 };
 
-class CAllValueOpt : public CMatchValue
-{
-protected:
-    using CMatchValue::CMatchValue;
-    bool Validate(const VxXmlLib16::CSerializationContext &context, const VxXmlLib16::CXmlGeneratedClass *object,
-                  bool found, bool ownerIsElement) const override;
-};
-
-class CAllValueMnd : public TMandatory<CMatchValue>
-{
-protected:
-    using TMandatory<CMatchValue>::TMandatory;
-    bool Validate(const VxXmlLib16::CSerializationContext &context, const VxXmlLib16::CXmlGeneratedClass *object,
-                  bool found, bool ownerIsElement) const override;
-};
+using CAllValueOpt = TAllOpt<CMatchValue>;
+using CAllValueMnd = TAllMnd<CMatchValue>;
 
 class CElementInfoSeqPrimOpt final : public TPrim<CSeqValueOpt>
 {
@@ -372,6 +389,11 @@ protected:
                                    const VxXmlLib16::CXmlGeneratedClass *object,
                                    VxXmlLib16::CXmlWriter *writer) const override;
     bool IsPseudo() const { return m_elementType == XmlElementType_Pseudo; }
+    // A pseudo child may start wherever the cursor stands; a real one only at its own element.
+    bool MayStartAt(const VxXmlLib16::CSerializationContext &context, const VxXmlLib16::CXmlElement *element) const
+    {
+        return IsPseudo() ? element != nullptr : IsThisElement(context, element);
+    }
     // Reads a new child at the cursor, from inside its element or, for a pseudo child,
     // inline; when something was consumed the property takes the child. True then.
     bool ReadNewChild(const VxXmlLib16::CSerializationContext &context, VxXmlLib16::CXmlGeneratedClass *object,
@@ -382,12 +404,15 @@ private:
     XmlElementType m_elementType;
 };
 
-// A generated class made by the class factory from a class id.
+// A generated class made by the class factory from a class id. Still abstract: the
+// entries inherit the public constructor.
 class CClsElementInfo : public CObjectElementInfo
 {
-protected:
+public:
     CClsElementInfo(const char *name, const char *namespaceUri, int propertyIndex, XmlElementType elementType,
                     ClassCreateFunction create, int classId);
+
+protected:
     CSmartPtr<VxXmlLib16::CXmlObjectBase> Create() const;
 
 private:
@@ -397,21 +422,26 @@ private:
 
 class CClsMndElementInfo : public TMandatory<CClsElementInfo>
 {
-protected:
+public:
     CClsMndElementInfo(const char *name, const char *namespaceUri, int propertyIndex, XmlElementType elementType,
                        ClassCreateFunction create, int classId, bool hasMandatoryContent);
+
+protected:
     bool HasMandatoryContent() const { return m_hasMandatoryContent; }
 
 private:
     bool m_hasMandatoryContent;
 };
 
-// A class chosen by substitution from the element being read.
+// A class chosen by substitution from the element being read. Still abstract, like
+// CClsElementInfo.
 class CAbsClsElementInfo : public CObjectElementInfo
 {
-protected:
+public:
     CAbsClsElementInfo(const char *name, const char *namespaceUri, int propertyIndex, XmlElementType elementType,
                        SubstitutionCreateFunction create);
+
+protected:
     CSmartPtr<VxXmlLib16::CXmlObjectBase> Create(VxXmlLib16::CXmlElement *element) const;
 
 private:
@@ -421,8 +451,7 @@ private:
 class CElementInfoSeqClsOpt final : public CClsElementInfo
 {
 public:
-    CElementInfoSeqClsOpt(const char *name, const char *namespaceUri, int propertyIndex, XmlElementType elementType,
-                          ClassCreateFunction create, int classId);
+    using CClsElementInfo::CClsElementInfo;
 
 protected:
     bool ElementFromXml(const VxXmlLib16::CSerializationContext &context, VxXmlLib16::CXmlGeneratedClass *object,
@@ -433,8 +462,7 @@ protected:
 class CElementInfoSeqClsMnd final : public CClsMndElementInfo
 {
 public:
-    CElementInfoSeqClsMnd(const char *name, const char *namespaceUri, int propertyIndex, XmlElementType elementType,
-                          ClassCreateFunction create, int classId, bool hasMandatoryContent);
+    using CClsMndElementInfo::CClsMndElementInfo;
 
 protected:
     bool ElementFromXml(const VxXmlLib16::CSerializationContext &context, VxXmlLib16::CXmlGeneratedClass *object,
@@ -449,8 +477,7 @@ private:
 class CElementInfoSeqAbsClsOpt : public CAbsClsElementInfo
 {
 public:
-    CElementInfoSeqAbsClsOpt(const char *name, const char *namespaceUri, int propertyIndex,
-                             XmlElementType elementType, SubstitutionCreateFunction create);
+    using CAbsClsElementInfo::CAbsClsElementInfo;
 
 protected:
     bool ElementFromXml(const VxXmlLib16::CSerializationContext &context, VxXmlLib16::CXmlGeneratedClass *object,
@@ -472,25 +499,21 @@ protected:
                         const char *targetNamespace, XmlElementType ownerType) override;
 };
 
-class CElementInfoAllClsOpt final : public CClsElementInfo
+class CElementInfoAllClsOpt final : public TAllOpt<CClsElementInfo>
 {
 public:
-    CElementInfoAllClsOpt(const char *name, const char *namespaceUri, int propertyIndex, XmlElementType elementType,
-                          ClassCreateFunction create, int classId);
+    using TAllOpt<CClsElementInfo>::TAllOpt;
 
 protected:
     bool ElementFromXml(const VxXmlLib16::CSerializationContext &context, VxXmlLib16::CXmlGeneratedClass *object,
                         VxXmlLib16::CXmlElement *parent, VxXmlLib16::CXmlElement **cursor,
                         const char *targetNamespace, XmlElementType ownerType) override;
-    bool Validate(const VxXmlLib16::CSerializationContext &context, const VxXmlLib16::CXmlGeneratedClass *object,
-                  bool found, bool ownerIsElement) const override;
 };
 
 class CElementInfoAllClsMnd final : public CClsMndElementInfo
 {
 public:
-    CElementInfoAllClsMnd(const char *name, const char *namespaceUri, int propertyIndex, XmlElementType elementType,
-                          ClassCreateFunction create, int classId, bool hasMandatoryContent);
+    using CClsMndElementInfo::CClsMndElementInfo;
 
 protected:
     bool ElementFromXml(const VxXmlLib16::CSerializationContext &context, VxXmlLib16::CXmlGeneratedClass *object,
@@ -501,30 +524,23 @@ protected:
                   bool found, bool ownerIsElement) const override;
 };
 
-class CElementInfoAllAbsClsOpt : public CAbsClsElementInfo
+class CElementInfoAllAbsClsOpt : public TAllOpt<CAbsClsElementInfo>
 {
 public:
-    CElementInfoAllAbsClsOpt(const char *name, const char *namespaceUri, int propertyIndex,
-                             XmlElementType elementType, SubstitutionCreateFunction create);
+    using TAllOpt<CAbsClsElementInfo>::TAllOpt;
 
 protected:
     bool ElementFromXml(const VxXmlLib16::CSerializationContext &context, VxXmlLib16::CXmlGeneratedClass *object,
                         VxXmlLib16::CXmlElement *parent, VxXmlLib16::CXmlElement **cursor,
                         const char *targetNamespace, XmlElementType ownerType) override;
-    bool Validate(const VxXmlLib16::CSerializationContext &context, const VxXmlLib16::CXmlGeneratedClass *object,
-                  bool found, bool ownerIsElement) const override;
 };
 
-class CElementInfoAllAbsClsMnd final : public TMandatory<CElementInfoAllAbsClsOpt>
+class CElementInfoAllAbsClsMnd final : public TAllMnd<CElementInfoAllAbsClsOpt>
 {
 public:
     // The last number is kept for the generated tables and not used.
     CElementInfoAllAbsClsMnd(const char *name, const char *namespaceUri, int propertyIndex,
                              XmlElementType elementType, SubstitutionCreateFunction create, int unused);
-
-protected:
-    bool Validate(const VxXmlLib16::CSerializationContext &context, const VxXmlLib16::CXmlGeneratedClass *object,
-                  bool found, bool ownerIsElement) const override;
 
 private:
     std::int32_t m_unused;
@@ -533,8 +549,7 @@ private:
 class CElementInfoChoiceClsOpt final : public CClsElementInfo
 {
 public:
-    CElementInfoChoiceClsOpt(const char *name, const char *namespaceUri, int propertyIndex,
-                             XmlElementType elementType, ClassCreateFunction create, int classId);
+    using CClsElementInfo::CClsElementInfo;
 
 protected:
     // Writes the child as a choice member.
@@ -548,8 +563,7 @@ protected:
 class CElementInfoChoiceAbsClsOpt final : public CAbsClsElementInfo
 {
 public:
-    CElementInfoChoiceAbsClsOpt(const char *name, const char *namespaceUri, int propertyIndex,
-                                XmlElementType elementType, SubstitutionCreateFunction create);
+    using CAbsClsElementInfo::CAbsClsElementInfo;
 
 protected:
     bool ElementFromXml(const VxXmlLib16::CSerializationContext &context, VxXmlLib16::CXmlGeneratedClass *object,
@@ -560,11 +574,14 @@ protected:
 // ---- Wildcard entries -------------------------------------------------------------
 
 // An xs:any child held as a CElement; the name "AnyElement" matches any local name.
+// Still abstract: the entries inherit the public constructor.
 class CUntpdElementInfo : public CElementInfo
 {
-protected:
+public:
     CUntpdElementInfo(const char *name, const char *namespaceUri, int propertyIndex, const char *namespaceRule,
                       const char *targetNamespace);
+
+protected:
     bool ElementToXml(const VxXmlLib16::CSerializationContext &context, const VxXmlLib16::CXmlGeneratedClass *object,
                       VxXmlLib16::CXmlWriter *writer) const override;
     // A fresh wildcard element for the owner's target namespace.
@@ -582,17 +599,6 @@ protected:
 private:
     std::string m_namespaceRule;
     std::string m_targetNamespace;
-};
-
-template <class Base>
-class TUntpd : public Base
-{
-public:
-    TUntpd(const char *name, const char *namespaceUri, int propertyIndex, const char *namespaceRule,
-           const char *targetNamespace)
-        : Base(name, namespaceUri, propertyIndex, namespaceRule, targetNamespace)
-    {
-    }
 };
 
 class CSeqUntpdOpt : public CUntpdElementInfo
@@ -623,23 +629,15 @@ protected:
                         const char *targetNamespace, XmlElementType ownerType) override;
 };
 
-class CAllUntpdOpt : public CMatchUntpdOpt
-{
-protected:
-    using CMatchUntpdOpt::CMatchUntpdOpt;
-    bool Validate(const VxXmlLib16::CSerializationContext &context, const VxXmlLib16::CXmlGeneratedClass *object,
-                  bool found, bool ownerIsElement) const override;
-};
+using CAllUntpdOpt = TAllOpt<CMatchUntpdOpt>;
 
-class CAllUntpdMnd : public TMandatory<CUntpdElementInfo>
+class CAllUntpdMnd : public TAllMnd<CUntpdElementInfo>
 {
 protected:
-    using TMandatory<CUntpdElementInfo>::TMandatory;
+    using TAllMnd<CUntpdElementInfo>::TAllMnd;
     bool ElementFromXml(const VxXmlLib16::CSerializationContext &context, VxXmlLib16::CXmlGeneratedClass *object,
                         VxXmlLib16::CXmlElement *parent, VxXmlLib16::CXmlElement **cursor,
                         const char *targetNamespace, XmlElementType ownerType) override;
-    bool Validate(const VxXmlLib16::CSerializationContext &context, const VxXmlLib16::CXmlGeneratedClass *object,
-                  bool found, bool ownerIsElement) const override;
 };
 
 // A choice alternative that takes nothing sets its property back to null.
@@ -652,30 +650,30 @@ protected:
                         const char *targetNamespace, XmlElementType ownerType) override;
 };
 
-class CElementInfoSeqUntpdOpt final : public TUntpd<CSeqUntpdOpt>
+class CElementInfoSeqUntpdOpt final : public CSeqUntpdOpt
 {
 public:
-    using TUntpd<CSeqUntpdOpt>::TUntpd;
+    using CSeqUntpdOpt::CSeqUntpdOpt;
 };
-class CElementInfoSeqUntpdMnd final : public TUntpd<CSeqUntpdMnd>
+class CElementInfoSeqUntpdMnd final : public CSeqUntpdMnd
 {
 public:
-    using TUntpd<CSeqUntpdMnd>::TUntpd;
+    using CSeqUntpdMnd::CSeqUntpdMnd;
 };
-class CElementInfoAllUntpdOpt final : public TUntpd<CAllUntpdOpt>
+class CElementInfoAllUntpdOpt final : public CAllUntpdOpt
 {
 public:
-    using TUntpd<CAllUntpdOpt>::TUntpd;
+    using CAllUntpdOpt::CAllUntpdOpt;
 };
-class CElementInfoAllUntpdMnd final : public TUntpd<CAllUntpdMnd>
+class CElementInfoAllUntpdMnd final : public CAllUntpdMnd
 {
 public:
-    using TUntpd<CAllUntpdMnd>::TUntpd;
+    using CAllUntpdMnd::CAllUntpdMnd;
 };
-class CElementInfoChoiceUntpdOpt final : public TUntpd<CChoiceUntpdOpt>
+class CElementInfoChoiceUntpdOpt final : public CChoiceUntpdOpt
 {
 public:
-    using TUntpd<CChoiceUntpdOpt>::TUntpd;
+    using CChoiceUntpdOpt::CChoiceUntpdOpt;
 };
 
 // ---- Collection entries ------------------------------------------------------------
@@ -683,8 +681,13 @@ public:
 // Repeating content behind a collection property.
 class CCollectionElementInfo : public CElementInfo
 {
+public:
+    CCollectionElementInfo(const char *name, const char *namespaceUri, int propertyIndex)
+        : CElementInfo(name, namespaceUri, propertyIndex)
+    {
+    }
+
 protected:
-    using CElementInfo::CElementInfo;
     // Validates the count first unless the context ignores invalid counts.
     bool ElementToXml(const VxXmlLib16::CSerializationContext &context, const VxXmlLib16::CXmlGeneratedClass *object,
                       VxXmlLib16::CXmlWriter *writer) const override;
@@ -702,7 +705,7 @@ protected:
 class CElementInfoSeqCol : public CCollectionElementInfo
 {
 public:
-    CElementInfoSeqCol(const char *name, const char *namespaceUri, int propertyIndex);
+    using CCollectionElementInfo::CCollectionElementInfo;
 
 protected:
     bool ElementFromXml(const VxXmlLib16::CSerializationContext &context, VxXmlLib16::CXmlGeneratedClass *object,
@@ -714,7 +717,7 @@ protected:
 class CElementInfoAllCol : public CCollectionElementInfo
 {
 public:
-    CElementInfoAllCol(const char *name, const char *namespaceUri, int propertyIndex);
+    using CCollectionElementInfo::CCollectionElementInfo;
 
 protected:
     bool ElementFromXml(const VxXmlLib16::CSerializationContext &context, VxXmlLib16::CXmlGeneratedClass *object,
@@ -725,7 +728,7 @@ protected:
 class CElementInfoChoiceCol : public CCollectionElementInfo
 {
 public:
-    CElementInfoChoiceCol(const char *name, const char *namespaceUri, int propertyIndex);
+    using CCollectionElementInfo::CCollectionElementInfo;
 
 protected:
     // No count test: the choice decides whether this member is there at all.

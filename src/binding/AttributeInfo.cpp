@@ -6,6 +6,7 @@
 #include "XmlDocument.h"
 #include "XmlGeneratedClass.h"
 #include "XmlWriter.h"
+#include "binding/EntryAccess.h"
 
 namespace VxXmlLib16Data {
 
@@ -40,11 +41,7 @@ void CAttributeInfo::ReadProperty(const CXmlGeneratedClass *object, VxVariant &v
 
 void CAttributeInfo::InvokePropertyGet(CXmlGeneratedClass *object, VxVariant &value) const
 {
-    try {
-        object->AccessProperty(m_propertyIndex, true, value);
-    } catch (const CVxException &e) {
-        throw CVxValidationException(FormatString("Failed to get the property value for [%s].", m_name.c_str()), "", e);
-    }
+    GetPropertyValue(object, m_propertyIndex, m_name, value);
 }
 
 void CAttributeInfo::InvokePropertySet(CXmlGeneratedClass *object, VxVariant &value,
@@ -61,9 +58,7 @@ void CAttributeInfo::InvokePropertySet(CXmlGeneratedClass *object, VxVariant &va
 
 bool CAttributeInfo::IsThisAttribute(const CSerializationContext &context, CXmlAttribute *attribute) const
 {
-    if (!attribute || attribute->GetLocalName() != m_name)
-        return false;
-    return context.GetIgnoreNamespaces() || attribute->GetNamespaceURI() == m_namespaceUri;
+    return IsNodeNamed(context, attribute, m_name, m_namespaceUri);
 }
 
 bool CAttributeInfo::ReadPresentValue(const CXmlGeneratedClass *object, VxVariant &value) const

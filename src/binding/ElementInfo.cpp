@@ -14,6 +14,7 @@
 #include "XmlDocument.h"
 #include "XmlGeneratedClass.h"
 #include "XmlWriter.h"
+#include "binding/EntryAccess.h"
 
 namespace VxXmlLib16Data {
 
@@ -78,9 +79,7 @@ void CElementInfo::PseudoChildAttributeToXml(const CSerializationContext &, cons
 
 bool CElementInfo::IsThisElement(const CSerializationContext &context, const CXmlElement *element) const
 {
-    if (!element || element->GetLocalName() != m_name)
-        return false;
-    return context.GetIgnoreNamespaces() || element->GetNamespaceURI() == m_namespaceUri;
+    return IsNodeNamed(context, element, m_name, m_namespaceUri);
 }
 
 void CElementInfo::ReadProperty(const CXmlGeneratedClass *object, VxVariant &value) const
@@ -92,11 +91,7 @@ void CElementInfo::ReadProperty(const CXmlGeneratedClass *object, VxVariant &val
 
 void CElementInfo::InvokePropertyGet(CXmlGeneratedClass *object, VxVariant &value) const
 {
-    try {
-        object->AccessProperty(m_propertyIndex, true, value);
-    } catch (const CVxException &e) {
-        throw CVxValidationException(FormatString("Failed to get the property value for [%s].", m_name.c_str()), "", e);
-    }
+    GetPropertyValue(object, m_propertyIndex, m_name, value);
 }
 
 void CElementInfo::InvokePropertySet(CXmlGeneratedClass *object, VxVariant &value, const CXmlElement &element) const

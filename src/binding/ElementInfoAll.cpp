@@ -21,41 +21,12 @@ bool CMatchValue::ElementFromXml(const CSerializationContext &context, CXmlGener
     return true;
 }
 
-bool CAllValueOpt::Validate(const CSerializationContext &, const CXmlGeneratedClass *, bool, bool) const
-{
-    return true;
-}
-
-bool CAllValueMnd::Validate(const CSerializationContext &, const CXmlGeneratedClass *, bool found,
-                            bool ownerIsElement) const
-{
-    return ValidateMandatory(found, ownerIsElement);
-}
-
-CElementInfoAllClsOpt::CElementInfoAllClsOpt(const char *name, const char *namespaceUri, int propertyIndex,
-                                             XmlElementType elementType, ClassCreateFunction create, int classId)
-    : CClsElementInfo(name, namespaceUri, propertyIndex, elementType, create, classId)
-{
-}
-
 bool CElementInfoAllClsOpt::ElementFromXml(const CSerializationContext &context, CXmlGeneratedClass *object,
                                            CXmlElement *parent, CXmlElement **cursor, const char *, XmlElementType)
 {
-    if (IsPseudo() ? !*cursor : !IsThisElement(context, *cursor))
+    if (!MayStartAt(context, *cursor))
         return false;
     return ReadNewChild(context, object, parent, cursor, Create());
-}
-
-bool CElementInfoAllClsOpt::Validate(const CSerializationContext &, const CXmlGeneratedClass *, bool, bool) const
-{
-    return true;
-}
-
-CElementInfoAllClsMnd::CElementInfoAllClsMnd(const char *name, const char *namespaceUri, int propertyIndex,
-                                             XmlElementType elementType, ClassCreateFunction create, int classId,
-                                             bool hasMandatoryContent)
-    : CClsMndElementInfo(name, namespaceUri, propertyIndex, elementType, create, classId, hasMandatoryContent)
-{
 }
 
 bool CElementInfoAllClsMnd::ElementFromXml(const CSerializationContext &context, CXmlGeneratedClass *object,
@@ -80,43 +51,21 @@ bool CElementInfoAllClsMnd::Validate(const CSerializationContext &, const CXmlGe
     return ValidateMandatory(found, ownerIsElement);
 }
 
-CElementInfoAllAbsClsOpt::CElementInfoAllAbsClsOpt(const char *name, const char *namespaceUri, int propertyIndex,
-                                                   XmlElementType elementType, SubstitutionCreateFunction create)
-    : CAbsClsElementInfo(name, namespaceUri, propertyIndex, elementType, create)
-{
-}
-
 bool CElementInfoAllAbsClsOpt::ElementFromXml(const CSerializationContext &context, CXmlGeneratedClass *object,
                                               CXmlElement *parent, CXmlElement **cursor, const char *,
                                               XmlElementType)
 {
-    if (IsPseudo() ? !*cursor : !IsThisElement(context, *cursor))
+    if (!MayStartAt(context, *cursor))
         return false;
     // An element no class fits counts as not found: it stays for the driver to judge.
     const CSmartPtr<CXmlObjectBase> child = Create(*cursor);
     return child && ReadNewChild(context, object, parent, cursor, child);
 }
 
-bool CElementInfoAllAbsClsOpt::Validate(const CSerializationContext &, const CXmlGeneratedClass *, bool, bool) const
-{
-    return true;
-}
-
 CElementInfoAllAbsClsMnd::CElementInfoAllAbsClsMnd(const char *name, const char *namespaceUri, int propertyIndex,
                                                    XmlElementType elementType, SubstitutionCreateFunction create,
                                                    int unused)
-    : TMandatory<CElementInfoAllAbsClsOpt>(name, namespaceUri, propertyIndex, elementType, create), m_unused(unused)
-{
-}
-
-bool CElementInfoAllAbsClsMnd::Validate(const CSerializationContext &, const CXmlGeneratedClass *, bool found,
-                                        bool ownerIsElement) const
-{
-    return ValidateMandatory(found, ownerIsElement);
-}
-
-CElementInfoAllCol::CElementInfoAllCol(const char *name, const char *namespaceUri, int propertyIndex)
-    : CCollectionElementInfo(name, namespaceUri, propertyIndex)
+    : TAllMnd<CElementInfoAllAbsClsOpt>(name, namespaceUri, propertyIndex, elementType, create), m_unused(unused)
 {
 }
 

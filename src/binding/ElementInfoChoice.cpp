@@ -13,13 +13,6 @@ namespace VxXmlLib16Data {
 
 using namespace VxXmlLib16;
 
-CElementInfoChoiceClsOpt::CElementInfoChoiceClsOpt(const char *name, const char *namespaceUri, int propertyIndex,
-                                                   XmlElementType elementType, ClassCreateFunction create,
-                                                   int classId)
-    : CClsElementInfo(name, namespaceUri, propertyIndex, elementType, create, classId)
-{
-}
-
 bool CElementInfoChoiceClsOpt::ElementToXml(const CSerializationContext &context, const CXmlGeneratedClass *object,
                                             CXmlWriter *writer) const
 {
@@ -52,13 +45,6 @@ bool CElementInfoChoiceClsOpt::ElementFromXml(const CSerializationContext &conte
     return true;
 }
 
-CElementInfoChoiceAbsClsOpt::CElementInfoChoiceAbsClsOpt(const char *name, const char *namespaceUri,
-                                                         int propertyIndex, XmlElementType elementType,
-                                                         SubstitutionCreateFunction create)
-    : CAbsClsElementInfo(name, namespaceUri, propertyIndex, elementType, create)
-{
-}
-
 bool CElementInfoChoiceAbsClsOpt::ElementFromXml(const CSerializationContext &context, CXmlGeneratedClass *object,
                                                  CXmlElement *, CXmlElement **cursor, const char *, XmlElementType)
 {
@@ -72,11 +58,6 @@ bool CElementInfoChoiceAbsClsOpt::ElementFromXml(const CSerializationContext &co
         return false;
     Descend(context, child, cursor);
     return true;
-}
-
-CElementInfoChoiceCol::CElementInfoChoiceCol(const char *name, const char *namespaceUri, int propertyIndex)
-    : CCollectionElementInfo(name, namespaceUri, propertyIndex)
-{
 }
 
 bool CElementInfoChoiceCol::ElementToXml(const CSerializationContext &context, const CXmlGeneratedClass *object,

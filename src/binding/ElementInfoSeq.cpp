@@ -52,26 +52,12 @@ bool CSeqValueMnd::ElementFromXml(const CSerializationContext &context, CXmlGene
                            [&] { ElementFromXmlValue(context, object, cursor); });
 }
 
-CElementInfoSeqClsOpt::CElementInfoSeqClsOpt(const char *name, const char *namespaceUri, int propertyIndex,
-                                             XmlElementType elementType, ClassCreateFunction create, int classId)
-    : CClsElementInfo(name, namespaceUri, propertyIndex, elementType, create, classId)
-{
-}
-
 bool CElementInfoSeqClsOpt::ElementFromXml(const CSerializationContext &context, CXmlGeneratedClass *object,
                                            CXmlElement *parent, CXmlElement **cursor, const char *, XmlElementType)
 {
-    // A pseudo child tries wherever the cursor stands; a real one only at its own element.
-    if (IsPseudo() ? *cursor != nullptr : IsThisElement(context, *cursor))
+    if (MayStartAt(context, *cursor))
         ReadNewChild(context, object, parent, cursor, Create());
     return true;
-}
-
-CElementInfoSeqClsMnd::CElementInfoSeqClsMnd(const char *name, const char *namespaceUri, int propertyIndex,
-                                             XmlElementType elementType, ClassCreateFunction create, int classId,
-                                             bool hasMandatoryContent)
-    : CClsMndElementInfo(name, namespaceUri, propertyIndex, elementType, create, classId, hasMandatoryContent)
-{
 }
 
 bool CElementInfoSeqClsMnd::ElementFromXml(const CSerializationContext &context, CXmlGeneratedClass *object,
@@ -109,12 +95,6 @@ bool CElementInfoSeqClsMnd::ReadPseudo(const CSerializationContext &context, CXm
     return true;
 }
 
-CElementInfoSeqAbsClsOpt::CElementInfoSeqAbsClsOpt(const char *name, const char *namespaceUri, int propertyIndex,
-                                                   XmlElementType elementType, SubstitutionCreateFunction create)
-    : CAbsClsElementInfo(name, namespaceUri, propertyIndex, elementType, create)
-{
-}
-
 bool CElementInfoSeqAbsClsOpt::ReadSubstitution(const CSerializationContext &context, CXmlGeneratedClass *object,
                                                 CXmlElement **cursor) const
 {
@@ -148,11 +128,6 @@ bool CElementInfoSeqAbsClsMnd::ElementFromXml(const CSerializationContext &conte
     throw CVxValidationException(
         FormatString("Failed to find a suitable substitution element for [%s].", GetElementName().c_str()),
         parent->GetXPath());
-}
-
-CElementInfoSeqCol::CElementInfoSeqCol(const char *name, const char *namespaceUri, int propertyIndex)
-    : CCollectionElementInfo(name, namespaceUri, propertyIndex)
-{
 }
 
 bool CElementInfoSeqCol::ElementFromXml(const CSerializationContext &context, CXmlGeneratedClass *object,

@@ -92,11 +92,6 @@ bool CMatchUntpdOpt::ElementFromXml(const CSerializationContext &context, CXmlGe
     return *cursor && ReadNewWildcard(context, object, parent, cursor, targetNamespace);
 }
 
-bool CAllUntpdOpt::Validate(const CSerializationContext &, const CXmlGeneratedClass *, bool, bool) const
-{
-    return true;
-}
-
 bool CAllUntpdMnd::ElementFromXml(const CSerializationContext &context, CXmlGeneratedClass *object,
                                   CXmlElement *parent, CXmlElement **cursor, const char *, XmlElementType)
 {
@@ -107,12 +102,6 @@ bool CAllUntpdMnd::ElementFromXml(const CSerializationContext &context, CXmlGene
         return false;
     *cursor = next;
     return true;
-}
-
-bool CAllUntpdMnd::Validate(const CSerializationContext &, const CXmlGeneratedClass *, bool found,
-                            bool ownerIsElement) const
-{
-    return ValidateMandatory(found, ownerIsElement);
 }
 
 bool CChoiceUntpdOpt::ElementFromXml(const CSerializationContext &context, CXmlGeneratedClass *object,

@@ -2,18 +2,14 @@
 
 #include "XmlCollectionBase.h"
 #include "XmlDocument.h"
+#include "binding/EntryAccess.h"
 
 namespace VxXmlLib16 {
 
 bool CXmlObjectBase::DoesElementNameMatch(const CSerializationContext &context, const CXmlElement *element,
                                           const char *name, const char *namespaceUri) const
 {
-    if (!element || element->GetLocalName() != (name ? name : ""))
-        return false;
-    // Without namespaces in the document model, or told to ignore them, the name decides.
-    if (context.GetIgnoreNamespaces())
-        return true;
-    return element->GetNamespaceURI() == (namespaceUri ? namespaceUri : "");
+    return IsNodeNamed(context, element, name ? name : "", namespaceUri ? namespaceUri : "");
 }
 
 void CXmlObjectBase::Choice_Read_Collection(CXmlCollectionBase *collection, CXmlElement *parent,

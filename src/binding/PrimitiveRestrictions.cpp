@@ -96,18 +96,39 @@ bool PassesTotalDigits(const std::string &text, const CPrimitiveRestrictions &r)
     return r.GetTotalDigits() == -1 || text.size() <= static_cast<std::size_t>(r.GetTotalDigits());
 }
 
-// The integer types: their bounds, their totalDigits, and the "%d" message, which shows
-// a ui4 above 2147483647 as negative.
-template <class T, class Parse>
-void CheckInteger(const char *name, T value, const CPrimitiveRestrictions &r, Parse parse,
-                  std::string (*toString)(T), bool withTotalDigits)
+// How an integer type reads its bounds and writes its value.
+template <class T>
+using IntegerFromString = T (*)(const std::string &, Rule);
+template <class T>
+using IntegerToString = std::string (*)(T);
+
+template <class T>
+bool PassesIntegerBounds(T value, const CPrimitiveRestrictions &r, IntegerFromString<T> fromString)
 {
-    bool valid = PassesBounds(value, r, parse);
+    return PassesBounds(value, r, [fromString](const std::string &text) { return fromString(text, Collapse); });
+}
+
+// The integer types up to 32 bits: their bounds, their totalDigits, and the "%d"
+// message, which shows a ui4 above 2147483647 as negative.
+template <class T>
+void CheckInteger(const char *name, T value, const CPrimitiveRestrictions &r, IntegerFromString<T> fromString,
+                  IntegerToString<T> toString, bool withTotalDigits)
+{
+    bool valid = PassesIntegerBounds(value, r, fromString);
     // The text is made only when the facet is set: typed collections check every item.
     if (valid && withTotalDigits && r.GetTotalDigits() != -1)
         valid = PassesTotalDigits(toString(value), r);
     if (!valid)
         Fail(FormatString("Invalid Value for %s [%d]", name, static_cast<int>(value)));
+}
+
+// The 64-bit integers: the message shows the value's full text.
+template <class T>
+void CheckWideInteger(const char *name, T value, const CPrimitiveRestrictions &r, IntegerFromString<T> fromString,
+                      IntegerToString<T> toString)
+{
+    if (!PassesIntegerBounds(value, r, fromString) || !PassesTotalDigits(toString(value), r))
+        Fail(FormatString("Invalid Value for %s [%s].", name, toString(value).c_str()));
 }
 
 // Date bounds are read as the value's own date type.
@@ -151,65 +172,49 @@ void CheckRestrictionValue(const char *name, float value, ItemType, const CPrimi
 void CheckRestrictionValue(const char *name, std::uint64_t value, ItemType,
                            const CPrimitiveRestrictions &restrictions)
 {
-    if (!PassesBounds(value, restrictions, [](const std::string &t) { return CConversions::ui8FromString(t, Collapse); }) ||
-        !PassesTotalDigits(CConversions::ui8ToString(value), restrictions))
-        Fail(FormatString("Invalid Value for %s [%s].", name, CConversions::ui8ToString(value).c_str()));
+    CheckWideInteger(name, value, restrictions, &CConversions::ui8FromString, &CConversions::ui8ToString);
 }
 
 void CheckRestrictionValue(const char *name, std::int64_t value, ItemType, const CPrimitiveRestrictions &restrictions)
 {
-    if (!PassesBounds(value, restrictions, [](const std::string &t) { return CConversions::i8FromString(t, Collapse); }) ||
-        !PassesTotalDigits(CConversions::i8ToString(value), restrictions))
-        Fail(FormatString("Invalid Value for %s [%s].", name, CConversions::i8ToString(value).c_str()));
+    CheckWideInteger(name, value, restrictions, &CConversions::i8FromString, &CConversions::i8ToString);
 }
 
 void CheckRestrictionValue(const char *name, std::uint32_t value, ItemType, const CPrimitiveRestrictions &restrictions)
 {
-    CheckInteger(name, value, restrictions, [](const std::string &t) { return CConversions::ui4FromString(t, Collapse); },
-                 &CConversions::ui4ToString, true);
+    CheckInteger(name, value, restrictions, &CConversions::ui4FromString, &CConversions::ui4ToString, true);
 }
 
 void CheckRestrictionValue(const char *name, std::int32_t value, ItemType, const CPrimitiveRestrictions &restrictions)
 {
-    CheckInteger(name, value, restrictions, [](const std::string &t) { return CConversions::i4FromString(t, Collapse); },
-                 &CConversions::i4ToString, true);
+    CheckInteger(name, value, restrictions, &CConversions::i4FromString, &CConversions::i4ToString, true);
 }
 
 void CheckRestrictionValue(const char *name, std::uint16_t value, ItemType type,
                            const CPrimitiveRestrictions &restrictions)
 {
     // A year is read by its own conversion and has no totalDigits.
-    if (type == ItemType_year)
-        CheckInteger(name, value, restrictions,
-                     [](const std::string &t) { return CConversions::yearFromString(t, Collapse); },
-                     &CConversions::ui2ToString, false);
-    else
-        CheckInteger(name, value, restrictions,
-                     [](const std::string &t) { return CConversions::ui2FromString(t, Collapse); },
-                     &CConversions::ui2ToString, true);
+    const bool isYear = type == ItemType_year;
+    CheckInteger(name, value, restrictions, isYear ? &CConversions::yearFromString : &CConversions::ui2FromString,
+                 &CConversions::ui2ToString, !isYear);
 }
 
 void CheckRestrictionValue(const char *name, std::int16_t value, ItemType, const CPrimitiveRestrictions &restrictions)
 {
-    CheckInteger(name, value, restrictions, [](const std::string &t) { return CConversions::i2FromString(t, Collapse); },
-                 &CConversions::i2ToString, true);
+    CheckInteger(name, value, restrictions, &CConversions::i2FromString, &CConversions::i2ToString, true);
 }
 
 void CheckRestrictionValue(const char *name, unsigned char value, ItemType type,
                            const CPrimitiveRestrictions &restrictions)
 {
+    // A day or a month is read by its own conversion and has no totalDigits.
+    IntegerFromString<unsigned char> fromString = &CConversions::ui1FromString;
     if (type == ItemType_day)
-        CheckInteger(name, value, restrictions,
-                     [](const std::string &t) { return CConversions::dayFromString(t, Collapse); },
-                     &CConversions::ui1ToString, false);
+        fromString = &CConversions::dayFromString;
     else if (type == ItemType_month)
-        CheckInteger(name, value, restrictions,
-                     [](const std::string &t) { return CConversions::monthFromString(t, Collapse); },
-                     &CConversions::ui1ToString, false);
-    else
-        CheckInteger(name, value, restrictions,
-                     [](const std::string &t) { return CConversions::ui1FromString(t, Collapse); },
-                     &CConversions::ui1ToString, true);
+        fromString = &CConversions::monthFromString;
+    CheckInteger(name, value, restrictions, fromString, &CConversions::ui1ToString,
+                 type != ItemType_day && type != ItemType_month);
 }
 
 void CheckRestrictionValue(const char *name, char value, ItemType type, const CPrimitiveRestrictions &restrictions)
@@ -217,8 +222,7 @@ void CheckRestrictionValue(const char *name, char value, ItemType type, const CP
     // char has no checker: every char value that reaches a check fails.
     if (type == ItemType_char)
         FailUnknownType("char");
-    CheckInteger(name, value, restrictions, [](const std::string &t) { return CConversions::i1FromString(t, Collapse); },
-                 &CConversions::i1ToString, true);
+    CheckInteger(name, value, restrictions, &CConversions::i1FromString, &CConversions::i1ToString, true);
 }
 
 void CheckRestrictionValue(const char *name, const std::string &value, ItemType,
