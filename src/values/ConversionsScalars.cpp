@@ -209,12 +209,12 @@ std::string RealText(double value, const std::string &format, const char *defaul
         return "NaN";
     if (std::isinf(value))
         return value < 0 ? "-INF" : "INF";
-    const char *spec = format.empty() ? defaultFormat : format.c_str();
-    if (!format.empty() && !IsRealFormat(spec))
+    const char *printfFormat = format.empty() ? defaultFormat : format.c_str();
+    if (!format.empty() && !IsRealFormat(printfFormat))
         throw CVxInvalidParamException(FormatString(
-            "The format override [%s] is not a printf format of one floating-point value", spec));
+            "The format override [%s] is not a printf format of one floating-point value", printfFormat));
     char buffer[48];
-    const int length = std::snprintf(buffer, sizeof buffer, spec, value);
+    const int length = std::snprintf(buffer, sizeof buffer, printfFormat, value);
     if (length < 0)
         return std::string();
     std::string text;
@@ -223,7 +223,7 @@ std::string RealText(double value, const std::string &format, const char *defaul
     } else {
         // An override may ask for more digits than the buffer holds; it gets them all.
         text.resize(static_cast<std::size_t>(length));
-        std::snprintf(text.data(), text.size() + 1, spec, value);
+        std::snprintf(text.data(), text.size() + 1, printfFormat, value);
     }
     WidenExponents(text);
     return text;
