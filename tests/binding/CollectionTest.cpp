@@ -3,38 +3,24 @@
 #include <string>
 #include <vector>
 
+#include "ExceptionAssert.h"
 #include "Exceptions.h"
 #include "SerializationContext.h"
 #include "XmlCollection.h"
+#include "PlainObject.h"
 
 using namespace VxXmlLib16;
 
 namespace {
 
-class Item : public CXmlObjectBase
+class Item : public VxTest::CPlainObject
 {
 public:
-    explicit Item(std::string name, int *destroyed = nullptr) : m_name(std::move(name)), m_destroyed(destroyed) {}
-    CXmlObjectBase *GetBase() override { return this; }
-    std::string GetTargetNamespace() const override { return ""; }
-    std::string GetNamespace() const override { return ""; }
+    explicit Item(std::string name, int *destroyed = nullptr) : CPlainObject(destroyed), m_name(std::move(name)) {}
     const std::string &Name() const { return m_name; }
-
-protected:
-    ~Item() override
-    {
-        if (m_destroyed)
-            ++*m_destroyed;
-    }
-    void ToXml_Int(CXmlWriter *, bool, const char *, const CSerializationContext &, bool) const override {}
-    CXmlElement *FromXml_Int(CXmlElement *, CXmlElement *, const CSerializationContext &, bool) override
-    {
-        return nullptr;
-    }
 
 private:
     std::string m_name;
-    int *m_destroyed;
 };
 
 // Opens the protected list operations, as a generated collection's facade would.
@@ -87,18 +73,8 @@ public:
     bool throwOnAdd = false;
 };
 
-template <class F>
-std::string MessageOf(F &&action)
-{
-    try {
-        action();
-    } catch (const CVxInvalidParamException &e) {
-        return e.GetMessage();
-    }
-    return "no exception";
-}
-
 using Events = std::vector<std::string>;
+using VxTest::Throws;
 
 } // namespace
 
@@ -137,18 +113,18 @@ TEST(Collection, IndexFailuresAndTheirEventOrder)
     Recorder recorder; // outlives the collection, which fires events as it dies
     CSmartPtr<ItemCollection> items(new ItemCollection);
     items->AddEventListener(&recorder);
-    EXPECT_EQ("Index 0 is out of range, use 0 - 0", MessageOf([&] { items->Remove(0); }));
+    EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { items->Remove(0); }, "Index 0 is out of range, use 0 - 0"));
     CSmartPtr<Item> outsider(new Item("o"));
-    EXPECT_EQ("Index out of range", MessageOf([&] { items->AddItemAt(1, outsider); }));
+    EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { items->AddItemAt(1, outsider); }, "Index out of range"));
     EXPECT_TRUE(recorder.events.empty()); // no event before the index test
 
     items->AppendItem(new Item("a"));
-    EXPECT_EQ("Index -1 is out of range, use 0 - 1", MessageOf([&] { items->Remove(-1); }));
+    EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { items->Remove(-1); }, "Index -1 is out of range, use 0 - 1"));
     recorder.events.clear();
     // The search for a neighbour comes after the Add event.
     CSmartPtr<Item> stranger(new Item("s"));
-    EXPECT_EQ("The object was not found in the collection",
-              MessageOf([&] { items->AddBeforeItem(stranger, outsider); }));
+    EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { items->AddBeforeItem(stranger, outsider); },
+                                                 "The object was not found in the collection"));
     EXPECT_EQ((Events{"Add:o"}), recorder.events);
     EXPECT_EQ("a", items->Names());
 }
@@ -218,12 +194,9 @@ TEST(Collection, CountValidation)
     items->AppendItem(new Item("a"));
     items->AppendItem(new Item("b"));
     EXPECT_FALSE(items->IsValidCount(context));
-    try {
-        items->ValidateCount(context);
-        FAIL();
-    } catch (const CVxValidationException &e) {
-        EXPECT_EQ("The Maximum number of [item] elements allowed in this collection is 1", e.GetMessage());
-    }
+    EXPECT_TRUE(Throws<CVxValidationException>(
+        [&] { items->ValidateCount(context); },
+        "The Maximum number of [item] elements allowed in this collection is 1"));
     context.SetIgnoreInvalidCollectionCounts(true);
     EXPECT_TRUE(items->IsValidCount(context));
     EXPECT_NO_THROW(items->ValidateCount(context));

@@ -19,18 +19,6 @@ CParentElementInfo *Info(XmlElementGroupType group, XmlElementType type, const c
                                   ItemType_Invalid, nullptr, false);
 }
 
-// A null-terminated table on the heap, as generated code builds it.
-template <class Entry>
-Entry **Table(std::initializer_list<Entry *> entries)
-{
-    Entry **table = new Entry *[entries.size() + 1];
-    std::size_t i = 0;
-    for (Entry *entry : entries)
-        table[i++] = entry;
-    table[i] = nullptr;
-    return table;
-}
-
 template <class T>
 CSmartPtr<CXmlObjectBase> Make(int, const char *)
 {

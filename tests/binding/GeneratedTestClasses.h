@@ -15,6 +15,8 @@
 //   pick    (choice of two collections with a minimum of 1)
 //   bad     (all group with a collection)
 
+#include <algorithm>
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -35,6 +37,16 @@ struct CTestTables
     vd::CAttributeInfo **attributes;
     ~CTestTables() { vx::CXmlGeneratedClass::CleanMetaData(info, elements, attributes); }
 };
+
+// A null-terminated table on the heap, as generated code builds it.
+template <class Entry>
+Entry **Table(std::initializer_list<Entry *> entries)
+{
+    Entry **table = new Entry *[entries.size() + 1];
+    std::copy(entries.begin(), entries.end(), table);
+    table[entries.size()] = nullptr;
+    return table;
+}
 
 class CTestObject : public vx::CXmlGeneratedClass
 {

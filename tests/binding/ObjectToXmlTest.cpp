@@ -4,14 +4,16 @@
 
 #include "Exceptions.h"
 #include "SerializationContext.h"
+#include "ExceptionAssert.h"
 #include "TestSupport.h"
 #include "TreeObject.h"
 #include "XmlCollectionBase.h"
 #include "XmlWriter.h"
+#include "PlainObject.h"
 
 using namespace VxXmlLib16;
 using VxTest::CTreeObject;
-using VxTest::ExpectFailure;
+using VxTest::Throws;
 
 namespace {
 
@@ -109,32 +111,15 @@ TEST(ObjectToXml, DefaultArgumentsWriteAFormattedDocumentWithHeader)
     EXPECT_EQ(root->ToXml(), "<?xml version=\"1.0\"?>\n<r>\n\t<c/>\n</r>\n");
 }
 
-TEST(ObjectToXml, InvalidEolTypeWritesNothing)
-{
-    CSmartPtr<CTreeObject> root = new CTreeObject("r");
-    ExpectFailure<CVxException>(
-        [&] { root->ToXml(true, true, static_cast<EOLType>(2), CSerializationContext::GetDefaultContext()); },
-        "Invalid EOL type.");
-}
-
 namespace {
 
 // Leaves its element open, as a faulty writer user would.
-class Unclosed final : public CXmlObjectBase
+class Unclosed final : public VxTest::CPlainObject
 {
-public:
-    CXmlObjectBase *GetBase() override { return this; }
-    std::string GetTargetNamespace() const override { return ""; }
-    std::string GetNamespace() const override { return ""; }
-
 protected:
     void ToXml_Int(CXmlWriter *writer, bool, const char *, const CSerializationContext &, bool) const override
     {
         writer->StartElement("open", "");
-    }
-    CXmlElement *FromXml_Int(CXmlElement *, CXmlElement *firstChild, const CSerializationContext &, bool) override
-    {
-        return firstChild;
     }
 };
 
@@ -190,15 +175,15 @@ private:
 TEST(ObjectToXml, ElementLeftOpenFailsAtTheEnd)
 {
     CSmartPtr<Unclosed> object = new Unclosed;
-    ExpectFailure<CVxException>([&] { object->ToXml(); }, "An Element has not been closed.");
+    EXPECT_TRUE(Throws<CVxException>([&] { object->ToXml(); }, "An Element has not been closed."));
 }
 
 TEST(ObjectToXml, CollectionIsNoTopLevelObject)
 {
     CSmartPtr<Events> collection = new Events;
-    ExpectFailure<CVxException>([&] { collection->ToXml(); },
-                                "CXmlCollectionBase::GetTargetNamespace Should not be used from within a "
-                                "Collection (program logic error)");
+    EXPECT_TRUE(Throws<CVxException>([&] { collection->ToXml(); },
+                                     "CXmlCollectionBase::GetTargetNamespace Should not be used from within a "
+                                "Collection (program logic error)"));
 }
 
 TEST(CollectionEvents, EachEventCarriesItsTypeAndPayload)

@@ -62,30 +62,16 @@ TEST(CodePageConverter, UnlistedCodePageDeliversNothing)
 TEST(CodePageConverter, ConvertsAndReplacesWhatTheTargetCannotTake)
 {
     // In table order, so that one thread switches between code pages.
-    const struct
-    {
-        std::uint32_t codePage;
-        std::u16string wide;
-        std::string narrow;
-    } fromUtf16[] = {
-        {1252, u"\u20AC", "\x80"},
-        {28605, u"\u20AC", "\xA4"},
-        {1251, u"\u0416", "\xC6"},
-        {1252, u"x\u4E2Dy\U0001F600z", "x?y?z"},
-        {1252, u"x\xDC00y", "x?y"},
-        {1252, u"x\xD800", "x?"},
+    const struct { std::uint32_t codePage; std::u16string wide; std::string narrow; } fromUtf16[] = {
+        {1252, u"\u20AC", "\x80"}, {28605, u"\u20AC", "\xA4"}, {1251, u"\u0416", "\xC6"},
+        {1252, u"x\u4E2Dy\U0001F600z", "x?y?z"}, {1252, u"x\xDC00y", "x?y"}, {1252, u"x\xD800", "x?"},
     };
     for (const auto &c : fromUtf16) {
         std::string narrow;
         EXPECT_TRUE(ToCodePage(c.codePage, c.wide, narrow));
         EXPECT_EQ(narrow, c.narrow) << c.codePage;
     }
-    const struct
-    {
-        std::uint32_t codePage;
-        std::string narrow;
-        std::u16string wide;
-    } toUtf16[] = {
+    const struct { std::uint32_t codePage; std::string narrow; std::u16string wide; } toUtf16[] = {
         {932, "a\x93", u"a\uFFFD"}, // a Shift-JIS lead byte without its trail byte
         {932, "\x93\xFA", u"\u65E5"},
         {20127, "a\xE9z", u"a\uFFFDz"},

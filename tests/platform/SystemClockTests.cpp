@@ -53,13 +53,8 @@ private:
 TEST(SystemClock, FileTimeTicksIntoCalendarFields)
 {
     // Year, month, day of the week (0 for Sunday), day, hour, minute, second, milli.
-    const struct
-    {
-        std::uint64_t ticks;
-        std::vector<int> expected;
-    } cases[] = {
-        {0, {1601, 1, 1, 1, 0, 0, 0, 0}},
-        {116444736000000000ULL, {1970, 1, 4, 1, 0, 0, 0, 0}},
+    const struct { std::uint64_t ticks; std::vector<int> expected; } cases[] = {
+        {0, {1601, 1, 1, 1, 0, 0, 0, 0}}, {116444736000000000ULL, {1970, 1, 4, 1, 0, 0, 0, 0}},
         {125963012967890000ULL, {2000, 2, 2, 29, 12, 34, 56, 789}},
         {125963012967899999ULL, {2000, 2, 2, 29, 12, 34, 56, 789}},
         {0x7FFFFFFFFFFFFFFFULL, {30828, 9, 4, 14, 2, 48, 5, 477}},

@@ -1,11 +1,8 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <string>
-#include <typeinfo>
 
-#include "Exceptions.h"
+#include "BinaryData.h"
 
 namespace VxTest {
 
@@ -13,18 +10,11 @@ namespace VxTest {
 // the text is well-formed.
 std::string ExpatCheck(const std::string &text);
 
-// Runs the operation and checks that it throws exactly the kind Kind (not a subclass)
-// with exactly this message.
-template <class Kind, class Operation>
-void ExpectFailure(Operation operation, const std::string &message)
+// The bytes of a buffer; an empty buffer may have no data at all.
+inline std::string Bytes(const VxXmlLib16::CBinaryData &data)
 {
-    try {
-        operation();
-        ADD_FAILURE() << "no failure, expected: " << message;
-    } catch (const VxXmlLib16::CVxException &e) {
-        EXPECT_EQ(typeid(e), typeid(Kind)) << e.GetMessage();
-        EXPECT_EQ(e.GetMessage(), message);
-    }
+    return data.GetLength() ? std::string(reinterpret_cast<const char *>(data.GetData()), data.GetLength())
+                            : std::string();
 }
 
 } // namespace VxTest

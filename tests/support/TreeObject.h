@@ -44,12 +44,7 @@ protected:
 private:
     ~CTreeObject() override;
 
-    struct Attribute
-    {
-        std::string localName;
-        std::string namespaceUri;
-        std::string value;
-    };
+    struct Attribute { std::string localName; std::string namespaceUri; std::string value; };
 
     std::string m_localName;
     std::string m_namespaceUri;

@@ -20,28 +20,14 @@ bool IsNegativeZero(const CBigInteger &value) { return value == CBigInteger(0) &
 
 TEST(BigIntegerParse, ReadsBackwardsFromTheEnd)
 {
-    struct Case {
-        const char *text;
-        const char *expected;
-    };
-    const Case cases[] = {
-        {"12345678901234567890123", "12345678901234567890123"},
-        {"-42", "-42"},
-        {"  -7  ", "-7"},
-        {"+5", "5"},
-        {"12-34", "34"},
-        {"1 2", "2"},
+    const std::pair<const char *, const char *> cases[] = {
+        {"12345678901234567890123", "12345678901234567890123"}, {"-42", "-42"}, {"  -7  ", "-7"}, {"+5", "5"},
+        {"12-34", "34"}, {"1 2", "2"}, {"007", "7"}, {"", "0"}, {"   ", "0"}, {"1e3", "1000"},
         {"\t-5", "5"}, // only blanks are trimmed, so the minus is not first
-        {"007", "7"},
-        {"", "0"},
-        {"   ", "0"},
-        {"1.5", "1"}, // the decimal route rounds halves toward zero
-        {"1.6", "2"},
-        {"-1.6", "-2"},
-        {"1e3", "1000"},
-    };
-    for (const Case &c : cases)
-        EXPECT_EQ(CBigInteger(c.text).ToString(), c.expected) << '"' << c.text << '"';
+        {"1.5", "1"},   // the decimal route rounds halves toward zero
+        {"1.6", "2"}, {"-1.6", "-2"}};
+    for (const auto &c : cases)
+        EXPECT_EQ(CBigInteger(c.first).ToString(), c.second) << '"' << c.first << '"';
 }
 
 TEST(BigIntegerParse, OddTextsKeepTheirShape)
@@ -59,7 +45,7 @@ TEST(BigIntegerParse, OddTextsKeepTheirShape)
     EXPECT_EQ(static_cast<int>(trailingSign), 0);
     EXPECT_EQ((trailingSign + CBigInteger(3)).ToString(), "3");
     EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { (void)(CBigInteger(3) / trailingSign); },
-                                            "ERROR: Overflow in operator/."));
+                                                 "ERROR: Overflow in operator/."));
 
     EXPECT_TRUE(Throws<CVxInvalidValueException>(
         [] { CBigInteger("abc"); },
@@ -74,14 +60,12 @@ TEST(BigIntegerConstruct, FromMachineNumbers)
     EXPECT_EQ(CBigInteger(std::numeric_limits<unsigned long long>::max()).ToString(), "18446744073709551615");
     EXPECT_EQ(CBigInteger(std::int64_t{-12}).ToString(), "-12");
 
-    EXPECT_EQ(CBigInteger(2.5).ToString(), "2");
-    EXPECT_EQ(CBigInteger(-2.5).ToString(), "-2");
-    EXPECT_EQ(CBigInteger(2.6).ToString(), "3");
-    EXPECT_EQ(CBigInteger(0.4).ToString(), "0");
-    EXPECT_EQ(CBigInteger(1e20).ToString(), "100000000000000000000");
-    EXPECT_EQ(CBigInteger(std::nan("")).ToString(), "0");
+    const std::pair<double, const char *> reals[] = {{2.5, "2"}, {-2.5, "-2"}, {2.6, "3"}, {0.4, "0"},
+                                                     {1e20, "100000000000000000000"}, {std::nan(""), "0"}};
+    for (const auto &c : reals)
+        EXPECT_EQ(CBigInteger(c.first).ToString(), c.second) << c.first;
     EXPECT_TRUE(Throws<CVxOverFlowException>([] { CBigInteger(-HUGE_VAL); },
-                                        "ERROR: Infinite value out of bound of BigInteger."));
+                                             "ERROR: Infinite value out of bound of BigInteger."));
 }
 
 TEST(BigIntegerConstruct, Constants)
@@ -132,27 +116,18 @@ TEST(BigIntegerArithmetic, AgreesWithMachineIntegers)
 // Each operator checks its divisor in its own way and with its own message.
 TEST(BigIntegerArithmetic, DivisionAndRemainderSigns)
 {
-    struct Case {
-        int a, b;
-        const char *quotient;       // a / b, or the message it raises
-        const char *remainder;      // a % b, or the message
-        const char *divideAssign;   // a /= b
-        const char *remainderAssign; // a %= b
-    };
+    // a / b, a % b, a /= b, a %= b: the result or the message it raises.
+    struct Case { int a, b; const char *quotient, *remainder, *divideAssign, *remainderAssign; };
     const char *const overflowDivide = "ERROR: Overflow in operator/.";
     const char *const overflowRemainder = "ERROR: Overflow in operator%.";
     const char *const overflowDivideAssign = "ERROR: Overflow in operator /=.";
     const char *const overflowRemainderAssign = "ERROR: Overflow in operator%=.";
     const Case cases[] = {
-        {7, 2, "3", "1", "3", "1"},
-        {-7, 2, "-3", "-1", "-3", "-1"},
+        {7, 2, "3", "1", "3", "1"}, {-7, 2, "-3", "-1", "-3", "-1"}, {6, 3, "2", "0", "2", "0"},
+        {0, 5, "0", "0", "0", "0"}, {0, 0, overflowDivide, "0", overflowDivide, "0"},
         {7, -2, "-3", overflowRemainder, overflowDivideAssign, overflowRemainderAssign},
         {-7, -2, "3", overflowRemainder, overflowDivideAssign, overflowRemainderAssign},
-        {6, 3, "2", "0", "2", "0"},
-        {0, 5, "0", "0", "0", "0"},
-        {0, 0, overflowDivide, "0", overflowDivide, "0"},
-        {7, 0, overflowDivide, overflowRemainder, overflowDivide, overflowRemainder},
-    };
+        {7, 0, overflowDivide, overflowRemainder, overflowDivide, overflowRemainder}};
     const auto check = [](const char *expected, auto operation) {
         if (expected[0] == 'E') {
             EXPECT_TRUE(Throws<CVxInvalidValueException>(operation, expected));
@@ -214,34 +189,21 @@ TEST(BigIntegerNarrowing, IntIsCheckedAndExact)
     EXPECT_EQ(static_cast<int>(CBigInteger::MAX_LONG), std::numeric_limits<int>::max());
     EXPECT_EQ(static_cast<int>(CBigInteger("-0")), 0);
     EXPECT_EQ(static_cast<int>(CBigInteger(-123456)), -123456);
-    EXPECT_TRUE(Throws<CVxInvalidValueException>([] { (void)static_cast<int>(CBigInteger("2147483648")); },
-                                            "ERROR: Value out of bound of int."));
-    EXPECT_TRUE(Throws<CVxInvalidValueException>([] { (void)static_cast<int>(CBigInteger("-2147483649")); },
-                                            "ERROR: Value out of bound of int."));
+    for (const char *text : {"2147483648", "-2147483649"})
+        EXPECT_TRUE(Throws<CVxInvalidValueException>([text] { (void)static_cast<int>(CBigInteger(text)); },
+                                                     "ERROR: Value out of bound of int."));
 }
 
 TEST(BigIntegerNarrowing, LongLongWrapsItsMultiplier)
 {
-    struct Case {
-        const char *text;
-        long long expected;
-    };
-    const Case cases[] = {
-        {"4294967295", 4294967295LL},
-        {"-4294967295", -4294967295LL},
-        {"5000000000", 705032704LL},
-        {"12345678901", 3755744309LL},
-        {"9223372036854775807", 25769803775LL},
-        {"-5000000000", -705032704LL},
-    };
-    for (const Case &c : cases)
-        EXPECT_EQ(static_cast<long long>(CBigInteger(c.text)), c.expected) << c.text;
-    EXPECT_TRUE(Throws<CVxInvalidValueException>(
-        [] { (void)static_cast<long long>(CBigInteger("9223372036854775808")); },
-        "ERROR: Value out of bound of LONGLONG."));
-    EXPECT_TRUE(Throws<CVxInvalidValueException>(
-        [] { (void)static_cast<long long>(CBigInteger("-9223372036854775809")); },
-        "ERROR: Value out of bound of LONGLONG."));
+    const std::pair<const char *, long long> cases[] = {
+        {"4294967295", 4294967295LL}, {"-4294967295", -4294967295LL},        {"5000000000", 705032704LL},
+        {"12345678901", 3755744309LL}, {"9223372036854775807", 25769803775LL}, {"-5000000000", -705032704LL}};
+    for (const auto &c : cases)
+        EXPECT_EQ(static_cast<long long>(CBigInteger(c.first)), c.second) << c.first;
+    for (const char *text : {"9223372036854775808", "-9223372036854775809"})
+        EXPECT_TRUE(Throws<CVxInvalidValueException>([text] { (void)static_cast<long long>(CBigInteger(text)); },
+                                                     "ERROR: Value out of bound of LONGLONG."));
 }
 
 TEST(BigIntegerSquareRoot, FloorOfTheRoot)
@@ -254,7 +216,7 @@ TEST(BigIntegerSquareRoot, FloorOfTheRoot)
     EXPECT_EQ((root * root - CBigInteger(1)).SquareRoot().ToString(), (root - CBigInteger(1)).ToString());
     EXPECT_TRUE(Throws<CVxInvalidValueException>([] { CBigInteger(0).SquareRoot(); }, "ERROR: Overflow in operator/."));
     EXPECT_TRUE(Throws<CVxInvalidValueException>([] { CBigInteger(-4).SquareRoot(); },
-                                            "ERROR: Negative Number in function SquareRoot()."));
+                                                 "ERROR: Negative Number in function SquareRoot()."));
 }
 
 } // namespace

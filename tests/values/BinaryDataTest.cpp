@@ -4,31 +4,15 @@
 #include <string>
 #include <vector>
 
+#include "ExceptionAssert.h"
 #include "BinaryData.h"
 #include "Exceptions.h"
+#include "TestSupport.h"
 
 using VxXmlLib16::CBinaryData;
 using VxXmlLib16::CVxException;
-
-namespace {
-
-std::string Bytes(const CBinaryData &data)
-{
-    return std::string(reinterpret_cast<const char *>(data.GetData()), data.GetLength());
-}
-
-template <class F>
-std::string MessageOf(F &&action)
-{
-    try {
-        action();
-    } catch (const CVxException &e) {
-        return e.GetMessage();
-    }
-    return "no exception";
-}
-
-} // namespace
+using VxTest::Throws;
+using VxTest::Bytes;
 
 TEST(BinaryData, CopiesShareUntilOneChanges)
 {
@@ -108,9 +92,9 @@ TEST(BinaryData, IndexBounds)
     const CBinaryData data("ab");
     EXPECT_EQ('b', data[1]);
     EXPECT_EQ(0, data[2]); // the index may equal the length
-    EXPECT_EQ("Index Out of range [3]", MessageOf([&] { (void)data[3]; }));
+    EXPECT_TRUE(Throws<CVxException>([&] { (void)data[3]; }, "Index Out of range [3]"));
     const CBinaryData empty;
-    EXPECT_EQ("Index Out of range [0]", MessageOf([&] { (void)empty[0]; }));
+    EXPECT_TRUE(Throws<CVxException>([&] { (void)empty[0]; }, "Index Out of range [0]"));
 }
 
 TEST(BinaryData, Equality)
@@ -139,17 +123,15 @@ TEST(BinaryData, HexForms)
     EXPECT_EQ(nullptr, data.GetData());
     EXPECT_EQ("", CBinaryData::GetAsHexString(nullptr, 4));
 
-    EXPECT_EQ("Invalid length in hex string", MessageOf([&] { data.SetAsHexString("abc"); }));
-    EXPECT_EQ("Invalid char in hex string [g]", MessageOf([&] { data.SetAsHexString("0g"); }));
-    EXPECT_EQ("Invalid char in hex string [ ]", MessageOf([&] { data.SetAsHexString(" 0"); }));
+    EXPECT_TRUE(Throws<CVxException>([&] { data.SetAsHexString("abc"); }, "Invalid length in hex string"));
+    EXPECT_TRUE(Throws<CVxException>([&] { data.SetAsHexString("0g"); }, "Invalid char in hex string [g]"));
+    EXPECT_TRUE(Throws<CVxException>([&] { data.SetAsHexString(" 0"); }, "Invalid char in hex string [ ]"));
 }
 
 TEST(BinaryData, Base64EncodePadding)
 {
-    const struct {
-        const char *bytes;
-        const char *text;
-    } cases[] = {{"", ""}, {"A", "QQ=="}, {"AB", "QUI="}, {"ABC", "QUJD"}, {"ABCD", "QUJDRA=="}};
+    const struct { const char *bytes, *text; } cases[] = {
+        {"", ""}, {"A", "QQ=="}, {"AB", "QUI="}, {"ABC", "QUJD"}, {"ABCD", "QUJDRA=="}};
     for (const auto &c : cases) {
         CBinaryData data(c.bytes);
         EXPECT_EQ(c.text, data.GetAsBase64()) << c.bytes;

@@ -9,7 +9,7 @@ using VxXmlLib16::CDateTime;
 using VxXmlLib16::CDateTimeSpan;
 using VxXmlLib16::CVxInvalidValueException;
 using VxXmlLib16::CWhitespaceUtils;
-using VxTest::FailsWith;
+using VxTest::Throws;
 
 TEST(ConversionsDates, ReadAfterTheWhitespaceRuleAndPrintBack)
 {
@@ -49,13 +49,13 @@ TEST(ConversionsDates, ReadAfterTheWhitespaceRuleAndPrintBack)
 TEST(ConversionsDates, FailuresComeFromTheValueReaders)
 {
     const auto none = CWhitespaceUtils::WhitespaceRule_None;
-    EXPECT_TRUE(FailsWith<CVxInvalidValueException>([&] { CConversions::dateFromString(" 2001-10-26", none); },
-                                                    "Invalid XSD Date [ 2001-10-26] expected CCYY-MM-DD[Z|[+|-]hh:mm]"));
-    EXPECT_TRUE(FailsWith<CVxInvalidValueException>([&] { CConversions::datetimeFromString("", none); },
-                                                    "Invalid XSD DateTime []."));
-    EXPECT_TRUE(FailsWith<CVxInvalidValueException>([&] { CConversions::timeFromString("24:00:00", none); },
-                                                    "Invalid XSD Time [24:00:00] expected hh:mm:ss[.ff]"));
-    EXPECT_TRUE(FailsWith<CVxInvalidValueException>(
+    EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { CConversions::dateFromString(" 2001-10-26", none); },
+                                                 "Invalid XSD Date [ 2001-10-26] expected CCYY-MM-DD[Z|[+|-]hh:mm]"));
+    EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { CConversions::datetimeFromString("", none); },
+                                                 "Invalid XSD DateTime []."));
+    EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { CConversions::timeFromString("24:00:00", none); },
+                                                 "Invalid XSD Time [24:00:00] expected hh:mm:ss[.ff]"));
+    EXPECT_TRUE(Throws<CVxInvalidValueException>(
         [&] { CConversions::durationFromString(" \n", CWhitespaceUtils::WhitespaceRule_Collapse); },
         "Invalid XSD Duration (Empty String)"));
 }

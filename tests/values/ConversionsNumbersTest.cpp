@@ -17,10 +17,7 @@ namespace {
 TEST(ConversionsNumbers, DecimalFormatOverrideIsADigitCount)
 {
     const CDecimal value("1.5");
-    struct Case {
-        const char *format;
-        const char *expected;
-    };
+    struct Case { const char *format; const char *expected; };
     const Case cases[] = {
         {"", "1.5"}, {"2", "1.50"}, {"0", "2."}, {"3 digits", "1.500"}, {"%.2f", "2."},
     };

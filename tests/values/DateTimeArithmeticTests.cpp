@@ -9,7 +9,7 @@ using VxXmlLib16::CVxInvalidStateException;
 using VxXmlLib16::CVxInvalidValueException;
 using VxXmlLib16::FILETIME;
 using VxXmlLib16::SYSTEMTIME;
-using VxTest::FailsWith;
+using VxTest::Throws;
 
 namespace {
 
@@ -20,27 +20,17 @@ CDateTimeSpan Span(const char *text) { return VxTest::SpanValue(text); }
 
 TEST(DateTimeArithmetic, AddingAndSubtractingSpans)
 {
-    const struct
-    {
-        const char *start;
-        char op;
-        const char *span;
-        const char *result;
-    } cases[] = {
-        {"2001-03-01", '-', "P1D", "2001-02-28"},
-        {"2000-03-01", '-', "P1D", "2000-02-29"},
-        {"2001-12-31", '+', "P1D", "2002-01-01"},
-        {"2001-01-01", '-', "P1D", "2000-12-31"},
+    const struct { const char *start; char op; const char *span; const char *result; } cases[] = {
+        {"2001-03-01", '-', "P1D", "2001-02-28"}, {"2000-03-01", '-', "P1D", "2000-02-29"},
+        {"2001-12-31", '+', "P1D", "2002-01-01"}, {"2001-01-01", '-', "P1D", "2000-12-31"},
         {"2001-01-31", '+', "P1M", "2001-02-31"}, // the day is not clamped
         {"2001-01-31", '-', "P2M", "2000-11-31"},
         {"2001-01-01", '-', "P1000D", "1998-04-07"},
         {"2001-03-31", '-', "-P1M", "2001-02-31"}, // a negative span still moves back
         {"-0001-12-31", '+', "P1D", "0000-01-01"},  // year 0 is reached without complaint
         // Long spans, checked against the month-by-month walk; the 16-bit year wraps.
-        {"2001-01-01", '+', "P146097D", "2401-01-01"},
-        {"2001-01-01", '+', "P1Y146096D", "2401-12-31"},
-        {"2001-01-01", '+', "P4294967295D", "30278-04-16"},
-        {"2001-01-01", '-', "P4294967295D", "-26277-09-19"},
+        {"2001-01-01", '+', "P146097D", "2401-01-01"}, {"2001-01-01", '+', "P1Y146096D", "2401-12-31"},
+        {"2001-01-01", '+', "P4294967295D", "30278-04-16"}, {"2001-01-01", '-', "P4294967295D", "-26277-09-19"},
         {"9999-12-31", '+', "P30000000D", "26601-03-18"},
         // The month step rounds to a month outside the calendar; the days then run through
         // months beyond December, or below month 0 going back.
@@ -86,12 +76,7 @@ TEST(DateTimeArithmetic, Normalisation)
 
 TEST(DateTimeArithmetic, Comparison)
 {
-    const struct
-    {
-        const char *left;
-        const char *right;
-        CDateTime::DTCompareResult result;
-    } cases[] = {
+    const struct { const char *left; const char *right; CDateTime::DTCompareResult result; } cases[] = {
         {"2001-01-01T12:00:00Z", "2001-01-01T13:00:00+01:00", CDateTime::dt_equal},
         {"2001-01-01T12:00:00Z", "2001-01-01T12:00:00", CDateTime::dt_indeterminate},
         {"2001-01-01T12:00:01Z", "2001-01-01T12:00:00", CDateTime::dt_greater},
@@ -100,15 +85,12 @@ TEST(DateTimeArithmetic, Comparison)
         {"2001-01-01T00:00:00Z", "2001-01-01T14:00:00", CDateTime::dt_indeterminate},
         {"2001-01-01T14:00:01", "2001-01-01T00:00:00Z", CDateTime::dt_greater},
         {"2001-01-01", "2001-01-01T05:00:00", CDateTime::dt_indeterminate},
-        {"2001-01-01", "2001-01-01T00:00:00", CDateTime::dt_less},
-        {"--05", "--05-01", CDateTime::dt_indeterminate},
-        {"--05", "--06", CDateTime::dt_less},
-        {"-0001", "0001", CDateTime::dt_indeterminate},
+        {"2001-01-01", "2001-01-01T00:00:00", CDateTime::dt_less}, {"--05", "--05-01", CDateTime::dt_indeterminate},
+        {"--05", "--06", CDateTime::dt_less}, {"-0001", "0001", CDateTime::dt_indeterminate},
         {"-0002", "-0001", CDateTime::dt_less},
         {"2001-01-01T12:00:00.5", "2001-01-01T12:00:00.25", CDateTime::dt_greater},
         {"2001-01-01T12:00:00.5", "2001-01-01T12:00:00.500", CDateTime::dt_equal},
-        {"2002-01-01", "2001-12-31", CDateTime::dt_greater},
-        {"2001-10", "2001-10-05", CDateTime::dt_indeterminate},
+        {"2002-01-01", "2001-12-31", CDateTime::dt_greater}, {"2001-10", "2001-10-05", CDateTime::dt_indeterminate},
     };
     for (const auto &c : cases) {
         SCOPED_TRACE(std::string(c.left) + " " + c.right);
@@ -135,7 +117,7 @@ TEST(DateTimeArithmetic, SecondsSince1970)
     EXPECT_EQ(978307200 + 45296, Value("2001-01-01T12:34:56.999").GetTime()); // fractions dropped
     EXPECT_EQ(-14817513600, Value("1500-06-15").GetTime());
     EXPECT_EQ(253402300799, Value("9999-12-31T23:59:59").GetTime());
-    EXPECT_TRUE(FailsWith<CVxInvalidValueException>(
+    EXPECT_TRUE(Throws<CVxInvalidValueException>(
         [] { Value("2001-01").GetTime(); },
         "Failed to GetTime, Date Status must be dateTime or date. Invalid Date Type: gYearMonth."));
 
@@ -148,9 +130,9 @@ TEST(DateTimeArithmetic, SecondsSince1970)
     EXPECT_EQ(CDateTime::dt_yearZero, CDateTime(253402300800LL).GetType());
     CDateTime value;
     // A year beyond the field is held at its limit rather than wrapped into range.
-    EXPECT_TRUE(FailsWith<CVxInvalidValueException>([&] { value = 10000000000000LL; },
-                                                    "Invalid Year [32767] (9999 <= year <= -9999 && year != 0)"));
-    EXPECT_TRUE(FailsWith<CVxInvalidValueException>([&] { value = 1LL << 62; }, "Invalid Time [4611686018427387904]"));
+    EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { value = 10000000000000LL; },
+                                                 "Invalid Year [32767] (9999 <= year <= -9999 && year != 0)"));
+    EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { value = 1LL << 62; }, "Invalid Time [4611686018427387904]"));
 }
 
 TEST(DateTimeArithmetic, DayOfWeekAndOfYear)
@@ -159,8 +141,8 @@ TEST(DateTimeArithmetic, DayOfWeekAndOfYear)
     EXPECT_EQ(3, Value("2000-02-29T23:59:59").GetDayOfWeek()); // Tuesday
     EXPECT_EQ(1, Value("2001-01-01T00:30:00+01:00").GetDayOfWeek()); // normalised to a Sunday
     EXPECT_EQ(6, Value("1500-06-15").GetDayOfWeek()); // Friday
-    EXPECT_TRUE(FailsWith<CVxInvalidStateException>([] { Value("2001").GetDayOfWeek(); },
-                                                    "Failed to GetDayOfWeek. Invalid Date Type: gYear."));
+    EXPECT_TRUE(Throws<CVxInvalidStateException>([] { Value("2001").GetDayOfWeek(); },
+                                                 "Failed to GetDayOfWeek. Invalid Date Type: gYear."));
 
     // The leap day counts only in January and February.
     EXPECT_EQ(2, Value("2000-01-01").GetDayOfYear());
@@ -169,8 +151,8 @@ TEST(DateTimeArithmetic, DayOfWeekAndOfYear)
     EXPECT_EQ(365, Value("2000-12-31").GetDayOfYear());
     EXPECT_EQ(1, Value("2001-01-01T10:00:00").GetDayOfYear());
     EXPECT_EQ(365, Value("2001-12-31").GetDayOfYear());
-    EXPECT_TRUE(FailsWith<CVxInvalidStateException>([] { Value("---05").GetDayOfYear(); },
-                                                    "Failed to GetDayOfYear. Invalid Date Type: gDay."));
+    EXPECT_TRUE(Throws<CVxInvalidStateException>([] { Value("---05").GetDayOfYear(); },
+                                                 "Failed to GetDayOfYear. Invalid Date Type: gDay."));
 }
 
 TEST(DateTimeArithmetic, SystemTimeInterchange)
@@ -178,7 +160,7 @@ TEST(DateTimeArithmetic, SystemTimeInterchange)
     const SYSTEMTIME time = Value("2001-01-01T10:20:30.456").GetAsSystemTime();
     EXPECT_EQ(1, time.wDayOfWeek); // Monday
     EXPECT_EQ("2001-01-01T10:20:30.456", CDateTime(time).ToString());
-    EXPECT_TRUE(FailsWith<CVxInvalidValueException>(
+    EXPECT_TRUE(Throws<CVxInvalidValueException>(
         [] { Value("2001-01-01").GetAsSystemTime(); },
         "Failed to GetAsSystemTime, Date Status must be dateTime. Invalid Date Type: date."));
 
@@ -188,9 +170,9 @@ TEST(DateTimeArithmetic, SystemTimeInterchange)
     bad.wMonth = 257; // does not wrap into range
     EXPECT_EQ(CDateTime::dt_yearZero, CDateTime(bad).GetType());
     CDateTime value;
-    EXPECT_TRUE(FailsWith<CVxInvalidValueException>([&] { value = bad; }, "Invalid Month [255] (1 <= month <= 12)"));
+    EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { value = bad; }, "Invalid Month [255] (1 <= month <= 12)"));
     CDateTime date = Value("2001-01-01");
-    EXPECT_TRUE(FailsWith<CVxInvalidStateException>(
+    EXPECT_TRUE(Throws<CVxInvalidStateException>(
         [&] { date = time; }, "Failed to copy CDateTime. Invalid Date Type: dateTime, expected: date."));
 
     const std::uint64_t ticks1970 = 116444736000000000ULL;
@@ -198,8 +180,8 @@ TEST(DateTimeArithmetic, SystemTimeInterchange)
     EXPECT_EQ("1970-01-01T00:00:00", CDateTime(epoch).ToString());
     const FILETIME beyond63Bits{0, 0x80000000u};
     EXPECT_EQ(CDateTime::dt_yearZero, CDateTime(beyond63Bits).GetType());
-    EXPECT_TRUE(FailsWith<CVxInvalidValueException>([&] { value = beyond63Bits; },
-                                                    "Failed to convert FILETIME to SYSTEMTIME"));
+    EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { value = beyond63Bits; },
+                                                 "Failed to convert FILETIME to SYSTEMTIME"));
     const FILETIME year30828{0xFFFFFFFFu, 0x7FFFFFFFu};
     EXPECT_EQ(CDateTime::dt_yearZero, CDateTime(year30828).GetType());
 }

@@ -5,7 +5,7 @@
 
 using VxXmlLib16::CDateTime;
 using VxXmlLib16::CVxInvalidValueException;
-using VxTest::FailsWith;
+using VxTest::Throws;
 
 namespace {
 
@@ -38,10 +38,8 @@ const ParseCase parseCases[] = {
     // Every date-shaped type, the type taken from the form.
     {Reader::Date, "2001-10-26", CDateTime::dt_date, "2001-10-26"},
     {Reader::Date, "2001-10", CDateTime::dt_gYearMonth, "2001-10"},
-    {Reader::Date, "2001", CDateTime::dt_gYear, "2001"},
-    {Reader::Date, "--05", CDateTime::dt_gMonth, "--05"},
-    {Reader::Date, "--05--", CDateTime::dt_gMonth, "--05"},
-    {Reader::Date, "---15", CDateTime::dt_gDay, "---15"},
+    {Reader::Date, "2001", CDateTime::dt_gYear, "2001"}, {Reader::Date, "--05", CDateTime::dt_gMonth, "--05"},
+    {Reader::Date, "--05--", CDateTime::dt_gMonth, "--05"}, {Reader::Date, "---15", CDateTime::dt_gDay, "---15"},
     {Reader::Date, "---99", CDateTime::dt_gDay, "---99"},
     {Reader::Date, "--02-29", CDateTime::dt_gMonthDay, "--02-29"},
     {Reader::Date, "-0001-01-01", CDateTime::dt_date, "-0001-01-01"},
@@ -121,7 +119,7 @@ TEST(DateTimeParse, FormsAndFailures)
         SCOPED_TRACE(c.text);
         CDateTime value;
         if (c.type == CDateTime::dt_yearZero) {
-            EXPECT_TRUE(FailsWith<CVxInvalidValueException>([&] { Read(value, c.reader, c.text); }, c.result));
+            EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { Read(value, c.reader, c.text); }, c.result));
             continue;
         }
         ASSERT_NO_THROW(Read(value, c.reader, c.text));
@@ -133,12 +131,12 @@ TEST(DateTimeParse, FormsAndFailures)
 TEST(DateTimeParse, NullTextsHaveTheirOwnMessages)
 {
     CDateTime value;
-    EXPECT_TRUE(FailsWith<CVxInvalidValueException>([&] { value.ParseXSDDate(nullptr); }, "Invalid Date (Null String)"));
-    EXPECT_TRUE(FailsWith<CVxInvalidValueException>([&] { value.ParseXSDTime(nullptr); }, "Invalid Time (Null String)"));
-    EXPECT_TRUE(FailsWith<CVxInvalidValueException>([&] { value.ParseXSDDateTime(nullptr); },
-                                                    "Invalid DateTime (Null String)"));
-    EXPECT_TRUE(FailsWith<CVxInvalidValueException>([] { CDateTime fromText(static_cast<const char *>(nullptr)); },
-                                                    "Invalid DateTime (Null String)"));
+    EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { value.ParseXSDDate(nullptr); }, "Invalid Date (Null String)"));
+    EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { value.ParseXSDTime(nullptr); }, "Invalid Time (Null String)"));
+    EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { value.ParseXSDDateTime(nullptr); },
+                                                 "Invalid DateTime (Null String)"));
+    EXPECT_TRUE(Throws<CVxInvalidValueException>([] { CDateTime fromText(static_cast<const char *>(nullptr)); },
+                                                 "Invalid DateTime (Null String)"));
 }
 
 TEST(DateTimeParse, FieldsAndZoneOfAParsedValue)

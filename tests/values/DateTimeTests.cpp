@@ -6,7 +6,7 @@
 using VxXmlLib16::CDateTime;
 using VxXmlLib16::CVxInvalidStateException;
 using VxXmlLib16::CVxInvalidValueException;
-using VxTest::FailsWith;
+using VxTest::Throws;
 
 TEST(DateTime, UnsetValuesPrintTheNotSetText)
 {
@@ -72,16 +72,15 @@ TEST(DateTime, WholeValueSetters)
 TEST(DateTime, SettersRefuseAnotherTypeAndInvalidFields)
 {
     CDateTime time(CDateTime::dt_time);
-    EXPECT_TRUE(FailsWith<CVxInvalidStateException>(
+    EXPECT_TRUE(Throws<CVxInvalidStateException>(
         [&] { time.SetDate(2001, 1, 1); }, "Failed to copy CDateTime. Invalid Date Type: date, expected: time."));
 
     CDateTime value;
-    EXPECT_TRUE(FailsWith<CVxInvalidValueException>([&] { value.SetGYear(10000); },
-                                                    "Invalid Year [10000] (9999 <= year <= -9999 && year != 0)"));
-    EXPECT_TRUE(FailsWith<CVxInvalidValueException>([&] { CDateTime().SetGYear(0); },
-                                                    "Invalid Year [0] (9999 <= year <= -9999 && year != 0)"));
-    const struct
-    {
+    EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { value.SetGYear(10000); },
+                                                 "Invalid Year [10000] (9999 <= year <= -9999 && year != 0)"));
+    EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { CDateTime().SetGYear(0); },
+                                                 "Invalid Year [0] (9999 <= year <= -9999 && year != 0)"));
+    const struct {
         unsigned char hour, minute, second;
         unsigned short milli, micro, nano;
         const char *message;
@@ -94,11 +93,11 @@ TEST(DateTime, SettersRefuseAnotherTypeAndInvalidFields)
         {0, 0, 0, 0, 0, 1000, "Invalid Nano-Second [1000] (0 <= nano <= 999)"},
     };
     for (const auto &t : times)
-        EXPECT_TRUE(FailsWith<CVxInvalidValueException>(
+        EXPECT_TRUE(Throws<CVxInvalidValueException>(
             [&] { CDateTime().SetTime(t.hour, t.minute, t.second, t.milli, t.micro, t.nano); }, t.message));
-    EXPECT_TRUE(FailsWith<CVxInvalidValueException>([] { CDateTime().SetGMonthDay(2, 30); },
-                                                    "Invalid Day [30] (1 <= day <= days in month)"));
-    EXPECT_TRUE(FailsWith<CVxInvalidValueException>([] { CDateTime().SetGDay(0); }, "Invalid Day [0] (1 <= day <= 31)"));
+    EXPECT_TRUE(Throws<CVxInvalidValueException>([] { CDateTime().SetGMonthDay(2, 30); },
+                                                 "Invalid Day [30] (1 <= day <= days in month)"));
+    EXPECT_TRUE(Throws<CVxInvalidValueException>([] { CDateTime().SetGDay(0); }, "Invalid Day [0] (1 <= day <= 31)"));
 }
 
 TEST(DateTime, FieldAccessorsFollowTheType)
@@ -124,12 +123,14 @@ TEST(DateTime, FieldAccessorsFollowTheType)
         {[](CDateTime &v) { v.SetNanoSecond(1); }, "Failed to GetNanoSecond. Invalid Date Type: gYear."},
     };
     for (const auto &r : refused)
-        EXPECT_TRUE(FailsWith<CVxInvalidStateException>([&] { r.call(year); }, r.message));
+        EXPECT_TRUE(Throws<CVxInvalidStateException>([&] { r.call(year); }, r.message));
 
     CDateTime day;
     day.SetGDay(5);
-    EXPECT_TRUE(FailsWith<CVxInvalidStateException>([&] { day.GetYear(); }, "Failed to GetYear. Invalid Date Type: gDay."));
-    EXPECT_TRUE(FailsWith<CVxInvalidStateException>([&] { day.SetYear(1); }, "Failed to GetYear. Invalid Date Type: gDay."));
+    EXPECT_TRUE(Throws<CVxInvalidStateException>([&] { day.GetYear(); },
+                                                 "Failed to GetYear. Invalid Date Type: gDay."));
+    EXPECT_TRUE(Throws<CVxInvalidStateException>([&] { day.SetYear(1); },
+                                                 "Failed to GetYear. Invalid Date Type: gDay."));
 
     // Field setters check no range.
     CDateTime time("2001-01-01T12:00:01");
@@ -143,11 +144,11 @@ TEST(DateTime, FieldAccessorsFollowTheType)
 TEST(DateTime, ZoneSettersAndAccessors)
 {
     CDateTime value("2001-01-01T00:00:00");
-    EXPECT_TRUE(FailsWith<CVxInvalidStateException>([&] { value.GetZoneHour(); }, "TimeZone is not been used"));
+    EXPECT_TRUE(Throws<CVxInvalidStateException>([&] { value.GetZoneHour(); }, "TimeZone is not been used"));
     value.SetUTC();
     EXPECT_TRUE(value.IsUTC());
     EXPECT_FALSE(value.HasTimeZone());
-    EXPECT_TRUE(FailsWith<CVxInvalidStateException>([&] { value.GetZoneMinute(); }, "TimeZone is not been used"));
+    EXPECT_TRUE(Throws<CVxInvalidStateException>([&] { value.GetZoneMinute(); }, "TimeZone is not been used"));
     EXPECT_EQ("2001-01-01T00:00:00Z", value.ToString());
 
     value.SetTimeZone(0, 0);
@@ -157,24 +158,18 @@ TEST(DateTime, ZoneSettersAndAccessors)
     EXPECT_EQ(59, value.GetZoneMinute());
     EXPECT_EQ("2001-01-01T00:00:00-23:59", value.ToString());
 
-    EXPECT_TRUE(FailsWith<CVxInvalidValueException>([&] { value.SetTimeZone(24, 0); }, "Invalid TimeZone [24:0]"));
-    EXPECT_TRUE(FailsWith<CVxInvalidValueException>([&] { value.SetTimeZone(-24, 0); }, "Invalid TimeZone [-24:0]"));
-    EXPECT_TRUE(FailsWith<CVxInvalidValueException>([&] { value.SetTimeZone(1, 60); }, "Invalid TimeZone [1:60]"));
+    EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { value.SetTimeZone(24, 0); }, "Invalid TimeZone [24:0]"));
+    EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { value.SetTimeZone(-24, 0); }, "Invalid TimeZone [-24:0]"));
+    EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { value.SetTimeZone(1, 60); }, "Invalid TimeZone [1:60]"));
     EXPECT_EQ(-23, value.GetZoneHour()); // a refused zone leaves the old one
 }
 
 TEST(DateTime, ConversionBetweenTypes)
 {
     const CDateTime source("2001-10-26T21:32:52.5+01:00");
-    const struct
-    {
-        CDateTime::DTType wanted;
-        const char *text;
-    } allowed[] = {
-        {CDateTime::dt_date, "2001-10-26+01:00"},
-        {CDateTime::dt_time, "21:32:52.5+01:00"},
-        {CDateTime::dt_gMonthDay, "--10-26+01:00"},
-        {CDateTime::dt_gDay, "---26+01:00"},
+    const struct { CDateTime::DTType wanted; const char *text; } allowed[] = {
+        {CDateTime::dt_date, "2001-10-26+01:00"}, {CDateTime::dt_time, "21:32:52.5+01:00"},
+        {CDateTime::dt_gMonthDay, "--10-26+01:00"}, {CDateTime::dt_gDay, "---26+01:00"},
     };
     for (const auto &a : allowed) {
         CDateTime target;
@@ -186,7 +181,7 @@ TEST(DateTime, ConversionBetweenTypes)
     CDateTime date;
     date.SetDateTime(source, CDateTime::dt_date);
     CDateTime target;
-    EXPECT_TRUE(FailsWith<CVxInvalidValueException>(
+    EXPECT_TRUE(Throws<CVxInvalidValueException>(
         [&] { target.SetDateTime(date, CDateTime::dt_time); },
         "Attempting to set a CDateTime of type time using an XmlDateTime of type date. The source CDateTime does "
         "not contian enough data to allow the conversion."));
@@ -196,7 +191,7 @@ TEST(DateTime, ConversionBetweenTypes)
     EXPECT_ANY_THROW(target.SetDateTime(yearMonth, CDateTime::dt_gDay));
     EXPECT_NO_THROW(target.SetDateTime(date, CDateTime::dt_yearZero));
     EXPECT_EQ(CDateTime::dt_yearZero, target.GetType());
-    EXPECT_TRUE(FailsWith<CVxInvalidValueException>(
+    EXPECT_TRUE(Throws<CVxInvalidValueException>(
         [&] { target.SetDateTime(source, static_cast<CDateTime::DTType>(42)); }, "Unknown date type 42."));
 }
 

@@ -31,11 +31,7 @@ protected:
 
 TEST_F(DecimalTest, ParseForms)
 {
-    struct Case {
-        const char *text;
-        const char *expected;
-        int divider;
-    };
+    struct Case { const char *text, *expected; int divider; };
     const Case cases[] = {
         {"1.50", "1.5", 1},  {"1.0", "1", 1},       {"-0.5", "-0.5", 1}, {"-0", "0", 1},
         {"1-2", "-12", 1},   {"1 000.5", "1000.5", 1}, {"1e 3", "1000", 1}, {"1e+3", "1000", 1},
@@ -56,26 +52,17 @@ TEST_F(DecimalTest, ParseForms)
 TEST_F(DecimalTest, ParseFailuresNameThePosition)
 {
     const std::string longDigits(600, '1');
-    struct Case {
-        std::string text;
-        int position;
-    };
-    const Case cases[] = {
+    const std::pair<std::string, int> cases[] = {
         {"1e3 ", 3}, // white space among exponent digits
-        {"1.2.3", 3},
-        {"abc", 0},
-        {"12x", 2},
-        {"1.5 x", 4},
-        {"1e-3-", 4},
+        {"1.2.3", 3}, {"abc", 0}, {"12x", 2}, {"1.5 x", 4}, {"1e-3-", 4}, {"nan\n", 0},
         {longDigits, 511},                       // integer digits beyond their buffer
         {"0." + longDigits, 513},                // fraction digits beyond theirs
         {"1e" + std::string(40, '0') + "1", 33}, // exponent digits beyond theirs
         {"1e1000", 5},                           // an exponent beyond any use
-        {"nan\n", 0},
     };
-    for (const Case &c : cases)
-        EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { CDecimal value(c.text.c_str()); },
-                                                     InvalidChar(c.position, c.text)));
+    for (const auto &c : cases)
+        EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { CDecimal value(c.first.c_str()); },
+                                                     InvalidChar(c.second, c.first)));
     EXPECT_EQ(CDecimal(("1e-" + std::string(20, '0') + "999").c_str()).ToString(), "0");
     EXPECT_EQ(CDecimal("1e999").ToString(), "1" + std::string(999, '0'));
 }
@@ -105,26 +92,13 @@ TEST_F(DecimalTest, DivisionKeepsThirtyDigits)
 TEST_F(DecimalTest, RoundingAtTheDividerLimit)
 {
     const std::string zeros29(29, '0');
-    struct Case {
-        int maxPlaces;
-        std::string text;
-        std::string expected;
-    };
+    struct Case { int maxPlaces; std::string text, expected; };
     const Case cases[] = {
-        {30, "0." + zeros29 + "15", "0." + zeros29 + "1"},
-        {30, "0." + zeros29 + "16", "0." + zeros29 + "2"},
-        {30, "-0." + zeros29 + "15", "-0." + zeros29 + "1"},
-        {30, "-0." + zeros29 + "16", "-0." + zeros29 + "2"},
+        {30, "0." + zeros29 + "15", "0." + zeros29 + "1"},   {30, "0." + zeros29 + "16", "0." + zeros29 + "2"},
+        {30, "-0." + zeros29 + "15", "-0." + zeros29 + "1"}, {30, "-0." + zeros29 + "16", "-0." + zeros29 + "2"},
         {30, "0." + std::string(31, '9'), "0.1" + std::string(30, '0')},
-        {1, "0.99", "0.10"},
-        {1, "-0.99", "-0.10"},
-        {1, "0.96", "0.10"},
-        {1, "0.95", "0.9"},
-        {1, "1.25", "1.2"},
-        {2, "0.125", "0.12"},
-        {2, "0.126", "0.13"},
-        {2, "0.1251", "0.13"},
-    };
+        {1, "0.99", "0.10"}, {1, "-0.99", "-0.10"}, {1, "0.96", "0.10"}, {1, "0.95", "0.9"}, {1, "1.25", "1.2"},
+        {2, "0.125", "0.12"}, {2, "0.126", "0.13"}, {2, "0.1251", "0.13"}};
     for (const Case &c : cases) {
         CDecimal::SetMaxDecimalPlaces(c.maxPlaces);
         EXPECT_EQ(CDecimal(c.text.c_str()).ToString(), c.expected) << c.text << " at " << c.maxPlaces;
@@ -135,7 +109,7 @@ TEST_F(DecimalTest, RoundingAtTheDividerLimit)
     EXPECT_EQ((CDecimal(2) / CDecimal(3)).ToString(), "0.67");
     EXPECT_EQ(CDecimal::GetMaxDecimalPlaces(), 2);
     EXPECT_TRUE(Throws<CVxInvalidParamException>([] { CDecimal::SetMaxDecimalPlaces(0); },
-                                            "The maximum number of decimal places must be at least 1 [0]"));
+                                                 "The maximum number of decimal places must be at least 1 [0]"));
 }
 
 TEST_F(DecimalTest, ArithmeticAgreesWithScaledIntegers)
@@ -183,18 +157,11 @@ TEST_F(DecimalTest, IncrementAndDecrement)
 // Integer parts decide strictly; only equal integer parts let the fractions decide.
 TEST_F(DecimalTest, Comparisons)
 {
-    struct Case {
-        const char *a;
-        const char *b;
-        bool less, lessEqual, greater, greaterEqual, equal;
-    };
+    struct Case { const char *a, *b; bool less, lessEqual, greater, greaterEqual, equal; };
     const Case cases[] = {
-        {"1.9", "1.1", false, false, true, true, false},
-        {"1.1", "1.9", true, true, false, false, false},
-        {"1.9", "2.1", true, true, false, false, false},
-        {"1.50", "1.5", false, true, false, true, true},
-        {"-0.5", "0.5", true, true, false, false, false},
-        {"-1.5", "-1.2", true, true, false, false, false},
+        {"1.9", "1.1", false, false, true, true, false}, {"1.1", "1.9", true, true, false, false, false},
+        {"1.9", "2.1", true, true, false, false, false}, {"1.50", "1.5", false, true, false, true, true},
+        {"-0.5", "0.5", true, true, false, false, false}, {"-1.5", "-1.2", true, true, false, false, false},
         {"-0.5", "0", true, true, false, false, false},
         {"-0", "0", true, true, false, false, true}, // >= is the negation of < on the fractions
         {"10", "9.99", false, false, true, true, false},
@@ -214,11 +181,7 @@ TEST_F(DecimalTest, Comparisons)
 
 TEST_F(DecimalTest, ToStringWithPlacesRoundsHalfAwayFromZero)
 {
-    struct Case {
-        const char *text;
-        int places;
-        const char *expected;
-    };
+    struct Case { const char *text; int places; const char *expected; };
     const Case cases[] = {
         {"1.5", 0, "2."},      {"1.5", 2, "1.50"},     {"0.9995", 3, "1.0"}, {"1.25", 1, "1.3"},
         {"-1.25", 1, "-1.3"},  {"-0.5", 0, "-1."},     {"-0.04", 1, "-0.0"}, {"3", 2, "3.00"},
@@ -241,12 +204,11 @@ TEST_F(DecimalTest, CheckedConversions)
     EXPECT_EQ(CDecimal("1.6").ToBigInteger().ToString(), "2");
     EXPECT_EQ(CBigInteger(CDecimal("-1.5")).ToString(), "-1");
 
-    EXPECT_TRUE(Throws<CVxOverFlowException>([] { CDecimal("2147483647.6").ToLong(); },
-                                        "The Decimal value if to large to fit into a LONG"));
+    const std::string tooLarge = "The Decimal value if to large to fit into a ";
+    EXPECT_TRUE(Throws<CVxOverFlowException>([] { CDecimal("2147483647.6").ToLong(); }, tooLarge + "LONG"));
     EXPECT_TRUE(Throws<CVxOverFlowException>([] { CDecimal("-9223372036854775809").ToLongLong(); },
-                                        "The Decimal value if to large to fit into a LONGLONG"));
-    EXPECT_TRUE(Throws<CVxOverFlowException>([] { CDecimal("1.8e308").ToDouble(); },
-                                        "The Decimal value if to large to fit into a Double"));
+                                             tooLarge + "LONGLONG"));
+    EXPECT_TRUE(Throws<CVxOverFlowException>([] { CDecimal("1.8e308").ToDouble(); }, tooLarge + "Double"));
 }
 
 TEST_F(DecimalTest, ToStringIsLimitedTo1024Characters)

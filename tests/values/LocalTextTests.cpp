@@ -6,8 +6,10 @@
 #include "BinaryData.h"
 #include "LocalText.h"
 #include "LocalTextScope.h"
+#include "TestSupport.h"
 
 using namespace VxXmlLib16;
+using VxTest::Bytes;
 
 namespace {
 
@@ -38,16 +40,11 @@ struct Utf16ToUtf8Case
 TEST(Utf16ToUtf8, WritesAndCountsAndStopsAtLoneSurrogates)
 {
     const Utf16ToUtf8Case cases[] = {
-        {"ascii", u"Ab", "Ab", 2},
-        {"two byte", u"\u00E9", "\xC3\xA9", 2},
-        {"three byte", u"\u20AC", "\xE2\x82\xAC", 3},
-        {"surrogate pair", u"\U0001F600", "\xF0\x9F\x98\x80", 4},
-        {"nul unit", std::u16string(u"a\0b", 3), std::string("a\0b", 3), 3},
-        {"lone low", u"a\xDC00z", "a", 0},
-        {"high at end", u"ab\xD800", "ab", 0},
-        {"high before non-low", u"a\xD800z", "a", 0},
-        {"high before high", u"\xD800\xD801\xDC00", "", 0},
-        {"empty", u"", "", 0},
+        {"ascii", u"Ab", "Ab", 2}, {"two byte", u"\u00E9", "\xC3\xA9", 2},
+        {"three byte", u"\u20AC", "\xE2\x82\xAC", 3}, {"surrogate pair", u"\U0001F600", "\xF0\x9F\x98\x80", 4},
+        {"nul unit", std::u16string(u"a\0b", 3), std::string("a\0b", 3), 3}, {"lone low", u"a\xDC00z", "a", 0},
+        {"high at end", u"ab\xD800", "ab", 0}, {"high before non-low", u"a\xD800z", "a", 0},
+        {"high before high", u"\xD800\xD801\xDC00", "", 0}, {"empty", u"", "", 0},
     };
     for (const auto &c : cases) {
         SCOPED_TRACE(c.name);
@@ -64,12 +61,7 @@ TEST(Utf16ToUtf8, StopsBeforeASequenceThatDoesNotFit)
     EXPECT_EQ(Utf16ToUtf8String(u"abc", 0), "");
 }
 
-struct Utf8Case
-{
-    const char *name;
-    std::string utf8;
-    std::string local;
-};
+struct Utf8Case { const char *name; std::string utf8; std::string local; };
 
 // Scratch sizes: none, too small for the text, and ample.
 const unsigned int kScratchSizes[] = {0, 3, 256};
@@ -85,19 +77,15 @@ std::string Utf8ToLocalWithScratch(const std::string &text, unsigned int size)
 TEST(Utf8ToLocal, Utf8LocalKeepsValidTextAndReplacesIllFormedSequences)
 {
     const Utf8Case cases[] = {
-        {"ascii", "plain name", "plain name"},
-        {"long ascii", std::string(100, 'x'), std::string(100, 'x')},
+        {"ascii", "plain name", "plain name"}, {"long ascii", std::string(100, 'x'), std::string(100, 'x')},
         {"non-ascii", "gr\xC3\xBC\xC3\x9F \xE2\x82\xAC \xF0\x9F\x98\x80", "gr\xC3\xBC\xC3\x9F \xE2\x82\xAC \xF0\x9F\x98\x80"},
-        {"ends at nul", std::string("abc\0def", 7), "abc"},
-        {"truncated two byte", "a\xC3", "a" + kReplacement},
+        {"ends at nul", std::string("abc\0def", 7), "abc"}, {"truncated two byte", "a\xC3", "a" + kReplacement},
         {"truncated three byte", "a\xE2\x82z", "a" + kReplacement + "z"},
-        {"truncated four byte", "\xF0\x9F\x98", kReplacement},
-        {"stray continuation", "\x80z", kReplacement + "z"},
+        {"truncated four byte", "\xF0\x9F\x98", kReplacement}, {"stray continuation", "\x80z", kReplacement + "z"},
         {"overlong", "\xC0\x80", kReplacement + kReplacement},
         {"encoded surrogate", "\xED\xA0\x80", kReplacement + kReplacement + kReplacement},
         {"above U+10FFFF", "\xF4\x90\x80\x80", kReplacement + kReplacement + kReplacement + kReplacement},
-        {"invalid byte then nul", std::string("\xFF\0x", 3), kReplacement},
-        {"empty", "", ""},
+        {"invalid byte then nul", std::string("\xFF\0x", 3), kReplacement}, {"empty", "", ""},
     };
     const unsigned int utf8Pages[] = {65001, 0, 3};
     for (unsigned int page : utf8Pages) {
@@ -125,12 +113,9 @@ TEST(Utf8ToLocal, Windows1252LocalTranscodes)
 {
     LocalTextScope scope(1252);
     const Utf8Case cases[] = {
-        {"ascii", "name", "name"},
-        {"latin and euro", "\xC3\xA9\xE2\x82\xAC", "\xE9\x80"},
-        {"unmappable", "a\xE4\xB8\xAD" "b", "a?b"},
-        {"unmappable pair", "\xF0\x9F\x98\x80", "?"},
-        {"ill-formed utf-8", "a\xC3", "a?"},
-        {"ends at nul", std::string("\xC3\xA9\0\xC3\xA9", 5), "\xE9"},
+        {"ascii", "name", "name"}, {"latin and euro", "\xC3\xA9\xE2\x82\xAC", "\xE9\x80"},
+        {"unmappable", "a\xE4\xB8\xAD" "b", "a?b"}, {"unmappable pair", "\xF0\x9F\x98\x80", "?"},
+        {"ill-formed utf-8", "a\xC3", "a?"}, {"ends at nul", std::string("\xC3\xA9\0\xC3\xA9", 5), "\xE9"},
         {"ascii ends at nul", std::string("ab\0c", 4), "ab"},
     };
     for (const auto &c : cases) {
@@ -167,21 +152,12 @@ TEST(Utf8ToLocal, LongTextThroughALegacyCodePage)
 
 TEST(Utf16ToLocal, ConvertsCountedUnitsIntoTheLocalEncoding)
 {
-    struct Case
-    {
-        unsigned int codePage;
-        std::u16string text;
-        std::string local;
-    };
+    struct Case { unsigned int codePage; std::u16string text; std::string local; };
     const Case cases[] = {
         {65001, u"caf\u00E9 \U0001F600", "caf\xC3\xA9 \xF0\x9F\x98\x80"},
-        {65001, u"a\xDC00" "b", "a" + kReplacement + "b"},
-        {65001, u"a\xD800", "a" + kReplacement},
-        {65001, std::u16string(u"ab\0c", 4), "ab"},
-        {1252, u"caf\u00E9 \u20AC", "caf\xE9 \x80"},
-        {1252, u"\u4E2D", "?"},
-        {932, u"\u65E5\u672C", "\x93\xFA\x96\x7B"},
-        {20127, u"abc", "abc"},
+        {65001, u"a\xDC00" "b", "a" + kReplacement + "b"}, {65001, u"a\xD800", "a" + kReplacement},
+        {65001, std::u16string(u"ab\0c", 4), "ab"}, {1252, u"caf\u00E9 \u20AC", "caf\xE9 \x80"},
+        {1252, u"\u4E2D", "?"}, {932, u"\u65E5\u672C", "\x93\xFA\x96\x7B"}, {20127, u"abc", "abc"},
         {12345, u"abc", ""},
     };
     for (const auto &c : cases) {
@@ -210,27 +186,13 @@ TEST(LocalText, UnmappedCodePageGivesEmptyResults)
 
 namespace {
 
-std::string Bytes(const VxXmlLib16::CBinaryData &data)
-{
-    return data.GetLength() ? std::string(reinterpret_cast<const char *>(data.GetData()), data.GetLength())
-                            : std::string();
-}
-
 TEST(LocalToUtf16Data, GivesLittleEndianUnitsWithoutTerminatorOrMark)
 {
-    struct Case
-    {
-        unsigned int codePage;
-        const char *local;
-        std::string utf16;
-    };
+    struct Case { unsigned int codePage; const char *local; std::string utf16; };
     const Case cases[] = {
         {65001, "A\xC3\xA9\xE2\x82\xAC", std::string("A\0\xE9\0\xAC\x20", 6)},
-        {65001, "\xF0\x9F\x98\x80", std::string("\x3D\xD8\x00\xDE", 4)},
-        {65001, "\xC3", "\xFD\xFF"},
-        {1252, "A\xE9\x80", std::string("A\0\xE9\0\xAC\x20", 6)},
-        {1252, "", ""},
-        {4711, "abc", ""},
+        {65001, "\xF0\x9F\x98\x80", std::string("\x3D\xD8\x00\xDE", 4)}, {65001, "\xC3", "\xFD\xFF"},
+        {1252, "A\xE9\x80", std::string("A\0\xE9\0\xAC\x20", 6)}, {1252, "", ""}, {4711, "abc", ""},
     };
     for (const auto &c : cases) {
         LocalTextScope scope(c.codePage, true); // the ASCII-only flag does not apply here
@@ -255,21 +217,11 @@ TEST(Utf16ToUtf8Data, EncodesUpToTheTerminator)
 
 TEST(LocalToUtf8Data, TranscodesOrPassesThroughWithAsciiOnly)
 {
-    struct Case
-    {
-        unsigned int codePage;
-        bool asciiOnly;
-        const char *local;
-        std::string utf8;
-    };
+    struct Case { unsigned int codePage; bool asciiOnly; const char *local; std::string utf8; };
     const Case cases[] = {
-        {65001, false, "caf\xC3\xA9", "caf\xC3\xA9"},
-        {65001, false, "a\xFF" "b", "a\xEF\xBF\xBD" "b"},
-        {1252, false, "caf\xE9 \x80", "caf\xC3\xA9 \xE2\x82\xAC"},
-        {1252, true, "caf\xE9", "caf\xE9"},
-        {1252, false, "plain", "plain"},
-        {65001, true, "a\xFF", "a\xFF"},
-        {4711, false, "abc", ""},
+        {65001, false, "caf\xC3\xA9", "caf\xC3\xA9"}, {65001, false, "a\xFF" "b", "a\xEF\xBF\xBD" "b"},
+        {1252, false, "caf\xE9 \x80", "caf\xC3\xA9 \xE2\x82\xAC"}, {1252, true, "caf\xE9", "caf\xE9"},
+        {1252, false, "plain", "plain"}, {65001, true, "a\xFF", "a\xFF"}, {4711, false, "abc", ""},
         {65001, false, "", ""},
     };
     for (const auto &c : cases) {

@@ -10,35 +10,26 @@ using Rule = CWhitespaceUtils::WhitespaceRule;
 
 namespace {
 
-struct RuleCase
-{
-    Rule rule;
-    std::string text;
-    std::string expected;
-};
+struct RuleCase { Rule rule; std::string text; std::string expected; };
 
 TEST(WhitespaceUtils, ApplyRuleByRule)
 {
     const std::string mixed = "  a \t\r\n b  ";
+    constexpr Rule None = CWhitespaceUtils::WhitespaceRule_None;
+    constexpr Rule Preserve = CWhitespaceUtils::WhitespaceRule_Preserve;
+    constexpr Rule Replace = CWhitespaceUtils::WhitespaceRule_Replace;
+    constexpr Rule Collapse = CWhitespaceUtils::WhitespaceRule_Collapse;
     const RuleCase cases[] = {
-        {CWhitespaceUtils::WhitespaceRule_None, mixed, mixed},
-        {CWhitespaceUtils::WhitespaceRule_None, std::string("a\0b", 3), std::string("a\0b", 3)},
-        {CWhitespaceUtils::WhitespaceRule_Preserve, "a\rb\nc\r\nd", "a\nb\nc\nd"},
-        {CWhitespaceUtils::WhitespaceRule_Preserve, "a\r\r\nb", "a\n\nb"},
-        {CWhitespaceUtils::WhitespaceRule_Preserve, std::string("a\0\rb", 4), std::string("a\0\nb", 4)},
-        {CWhitespaceUtils::WhitespaceRule_Preserve, std::string("x\0 ", 3), std::string("x\0 ", 3)},
-        {CWhitespaceUtils::WhitespaceRule_Replace, "a\tb\nc\rd", "a b c d"},
-        {CWhitespaceUtils::WhitespaceRule_Replace, "a\r\nb", "a b"},
-        {CWhitespaceUtils::WhitespaceRule_Replace, "\r\n\r\n", "  "},
-        {CWhitespaceUtils::WhitespaceRule_Replace, std::string("a\0\tb", 4), "a"},
-        {CWhitespaceUtils::WhitespaceRule_Replace, std::string("a\0 b", 4), std::string("a\0 b", 4)},
-        {CWhitespaceUtils::WhitespaceRule_Collapse, mixed, "a b"},
-        {CWhitespaceUtils::WhitespaceRule_Collapse, " \t\r\n ", ""},
-        {CWhitespaceUtils::WhitespaceRule_Collapse, "", ""},
-        {CWhitespaceUtils::WhitespaceRule_Collapse, "\va\f", "\va\f"},
-        {CWhitespaceUtils::WhitespaceRule_Collapse, std::string("a\0b ", 4), "a"},
+        {None, mixed, mixed}, {None, std::string("a\0b", 3), std::string("a\0b", 3)},
+        {Preserve, "a\rb\nc\r\nd", "a\nb\nc\nd"}, {Preserve, "a\r\r\nb", "a\n\nb"},
+        {Preserve, std::string("a\0\rb", 4), std::string("a\0\nb", 4)},
+        {Preserve, std::string("x\0 ", 3), std::string("x\0 ", 3)},
+        {Replace, "a\tb\nc\rd", "a b c d"}, {Replace, "a\r\nb", "a b"}, {Replace, "\r\n\r\n", "  "},
+        {Replace, std::string("a\0\tb", 4), "a"}, {Replace, std::string("a\0 b", 4), std::string("a\0 b", 4)},
+        {Collapse, mixed, "a b"}, {Collapse, " \t\r\n ", ""}, {Collapse, "", ""}, {Collapse, "\va\f", "\va\f"},
+        {Collapse, std::string("a\0b ", 4), "a"},
         // The NUL was the last byte written, so the space before it stays.
-        {CWhitespaceUtils::WhitespaceRule_Collapse, std::string("a \0", 3), "a "},
+        {Collapse, std::string("a \0", 3), "a "},
     };
     for (const auto &c : cases) {
         SCOPED_TRACE(testing::Message() << "rule " << c.rule << " [" << c.text << "]");

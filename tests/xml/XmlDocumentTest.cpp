@@ -4,24 +4,16 @@
 
 #include <string>
 
-#include "../values/LocalTextScope.h"
+#include "ExceptionAssert.h"
+#include "LocalTextScope.h"
 #include "Exceptions.h"
 #include "SerializationContext.h"
 #include "XmlDocument.h"
 
 using namespace VxXmlLib16;
+using VxTest::Throws;
 
 namespace {
-
-std::string MessageOf(CXmlDocument &document, const char *text)
-{
-    try {
-        document.LoadXml(text);
-    } catch (const CVxException &e) {
-        return e.GetMessage();
-    }
-    return "no failure";
-}
 
 const char kOrders[] = "<?xml version='1.0'?>\n"
                        "<o:orders xmlns:o='urn:o' xmlns='urn:d' xmlns:x='urn:x' xmlns:xsi="
@@ -149,28 +141,19 @@ TEST(XmlDocumentTest, WideTextIsReadAsUtf16)
     EXPECT_EQ(document.GetDocumentElement()->GetText(), "\xF0\x9F\x98\x80x");
     EXPECT_EQ(document.GetDocumentElement()->GetAttribute("a", ""), "\xC3\xA9");
     // The byte order mark alone is no document.
-    try {
-        document.LoadXml(L"");
-        FAIL();
-    } catch (const CVxException &e) {
-        EXPECT_EQ(e.GetMessage(), "no element found at line 1");
-    }
+    EXPECT_TRUE(Throws<CVxException>([&] { document.LoadXml(L""); }, "no element found at line 1"));
 }
 
 TEST(XmlDocumentTest, FailuresKeepTheirTexts)
 {
     CXmlDocument document;
-    EXPECT_EQ(MessageOf(document, ""), "XML String is empty!");
-    EXPECT_EQ(MessageOf(document, nullptr), "XML String is empty!");
-    EXPECT_EQ(MessageOf(document, "<a>\n<b>\n</a>"), "mismatched tag at line 3");
-    EXPECT_EQ(MessageOf(document, "<a/><b/>"), "junk after document element at line 1");
+    EXPECT_TRUE(Throws<CVxException>([&] { document.LoadXml(""); }, "XML String is empty!"));
+    EXPECT_TRUE(Throws<CVxException>([&] { document.LoadXml(static_cast<const char *>(nullptr)); },
+                                     "XML String is empty!"));
+    EXPECT_TRUE(Throws<CVxException>([&] { document.LoadXml("<a>\n<b>\n</a>"); }, "mismatched tag at line 3"));
+    EXPECT_TRUE(Throws<CVxException>([&] { document.LoadXml("<a/><b/>"); }, "junk after document element at line 1"));
     unsigned char byte = '<';
-    try {
-        document.LoadXmlStream(&byte, 0);
-        FAIL();
-    } catch (const CVxException &e) {
-        EXPECT_EQ(e.GetMessage(), "XML Stream is empty!");
-    }
+    EXPECT_TRUE(Throws<CVxException>([&] { document.LoadXmlStream(&byte, 0); }, "XML Stream is empty!"));
 }
 
 TEST(XmlDocumentTest, ReloadingReplacesTheTreeAndTheAliases)
@@ -182,7 +165,7 @@ TEST(XmlDocumentTest, ReloadingReplacesTheTreeAndTheAliases)
     EXPECT_EQ(document.GetDocumentElement()->GetLocalName(), "c");
     EXPECT_EQ(document.LookupNamespaceFromAlias("p"), "");
     // A failed load leaves what was built until the next Cleanup.
-    EXPECT_NE(MessageOf(document, "<d><e></d>"), "no failure");
+    EXPECT_THROW(document.LoadXml("<d><e></d>"), CVxException);
     ASSERT_NE(document.GetDocumentElement(), nullptr);
     EXPECT_EQ(document.GetDocumentElement()->GetLocalName(), "d");
     document.Cleanup();

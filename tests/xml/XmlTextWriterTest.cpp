@@ -4,12 +4,12 @@
 #include <utility>
 
 #include "Exceptions.h"
-#include "TestSupport.h"
+#include "ExceptionAssert.h"
 #include "TextStream.h"
 #include "XmlTextWriter.h"
 
 using namespace VxXmlLib16;
-using VxTest::ExpectFailure;
+using VxTest::Throws;
 
 namespace {
 
@@ -153,9 +153,9 @@ TEST_F(XmlTextWriterTest, AttributesOnlyWhileTheStartTagIsOpen)
     const std::string message = "Attributes must be added before elements";
     auto expectRefused = [&](const char *when) {
         SCOPED_TRACE(when);
-        ExpectFailure<CVxException>([&] { writer.WriteAttribute("a", "", "1", ItemType_string); }, message);
-        ExpectFailure<CVxException>([&] { writer.WriteTypeAttribute("", "T", ItemType_XmlObject); }, message);
-        ExpectFailure<CVxException>([&] { writer.WriteNilAttribute(); }, message);
+        EXPECT_TRUE(Throws<CVxException>([&] { writer.WriteAttribute("a", "", "1", ItemType_string); }, message));
+        EXPECT_TRUE(Throws<CVxException>([&] { writer.WriteTypeAttribute("", "T", ItemType_XmlObject); }, message));
+        EXPECT_TRUE(Throws<CVxException>([&] { writer.WriteNilAttribute(); }, message));
     };
     expectRefused("nothing open");
     writer.StartElement("r", "");
@@ -170,17 +170,17 @@ TEST_F(XmlTextWriterTest, UnbalancedElementsFail)
 {
     writer.StartElement("r", "");
     writer.WriteElementValue("partial", ItemType_string, false);
-    ExpectFailure<CVxException>([&] { writer.EndDocument(); }, "An Element has not been closed.");
+    EXPECT_TRUE(Throws<CVxException>([&] { writer.EndDocument(); }, "An Element has not been closed."));
     EXPECT_EQ(Text(), "<r>partial"); // what was written stays
 
     writer.EndElement();
-    ExpectFailure<CVxException>([&] { writer.EndElement(); }, "No element is open.");
+    EXPECT_TRUE(Throws<CVxException>([&] { writer.EndElement(); }, "No element is open."));
 }
 
 TEST_F(XmlTextWriterTest, InvalidEolTypeIsRefusedAndTheOldOneKept)
 {
     writer.SetEOLType(EOLType_CRLF);
-    ExpectFailure<CVxException>([&] { writer.SetEOLType(static_cast<EOLType>(2)); }, "Invalid EOL type.");
+    EXPECT_TRUE(Throws<CVxException>([&] { writer.SetEOLType(static_cast<EOLType>(2)); }, "Invalid EOL type."));
     EXPECT_EQ(writer.GetEOLType(), EOLType_CRLF);
     Leaf("r");
     EXPECT_EQ(Text(), "<r/>\r\n");
