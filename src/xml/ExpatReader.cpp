@@ -21,8 +21,9 @@ constexpr float kMaximumAmplification = 100.0f;
 constexpr unsigned long long kAmplificationThreshold = 8ull * 1024 * 1024;
 // Distinct names remembered per parse; real vocabularies stay far below.
 constexpr std::size_t kMostCachedNames = 4096;
-// XML_Parse takes an int length; larger buffers go in slices.
-constexpr std::uint32_t kLargestSlice = 1u << 30;
+// Expat copies what XML_Parse gives it into a buffer of its own; slices of this size keep
+// that copy small and warm instead of doubling a whole document in fresh memory.
+constexpr std::uint32_t kLargestSlice = 1u << 18;
 
 constexpr std::string_view kCdataStart = "<![CDATA[";
 constexpr std::string_view kCdataEnd = "]]>";
