@@ -35,14 +35,6 @@ protected:
     }
 };
 
-CXmlElement *Child(const CXmlDocument &document, int index)
-{
-    CXmlElement *element = document.GetDocumentElement()->GetFirstElement();
-    for (int i = 0; i < index; ++i)
-        element = element->GetNextSiblingElement();
-    return element;
-}
-
 } // namespace
 
 TEST(ClassFactory, TypeNameAndItsNamespace)
@@ -50,23 +42,22 @@ TEST(ClassFactory, TypeNameAndItsNamespace)
     CXmlDocument document;
     document.LoadXml("<r xmlns='urn:r' xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:a='urn:a'>"
                      "<e xsi:type='a:b:c'/><e xsi:type='plain'/><e xsi:type='zz:t'/><e type='t'/></r>");
-    EXPECT_EQ(CClassfactoryBase::GetElementType(Child(document, 0)), "b:c");
-    EXPECT_EQ(CClassfactoryBase::GetElementTypeNamespaceUri(Child(document, 0)), "urn:a");
-    EXPECT_EQ(CClassfactoryBase::GetElementType(Child(document, 1)), "plain");
-    EXPECT_EQ(CClassfactoryBase::GetElementTypeNamespaceUri(Child(document, 1)), "urn:r");
-    // An alias the document does not know gives the element's own namespace.
-    EXPECT_EQ(CClassfactoryBase::GetElementType(Child(document, 2)), "t");
-    EXPECT_EQ(CClassfactoryBase::GetElementTypeNamespaceUri(Child(document, 2)), "urn:r");
-    // A type attribute outside the instance namespace is no xsi:type.
-    EXPECT_EQ(CClassfactoryBase::GetElementType(Child(document, 3)), "");
-    EXPECT_EQ(CClassfactoryBase::GetElementTypeNamespaceUri(Child(document, 3)), "urn:r");
+    // An alias the document does not know gives the element's own namespace, and a type
+    // attribute outside the instance namespace is no xsi:type.
+    const char *const expected[][2] = {{"b:c", "urn:a"}, {"plain", "urn:r"}, {"t", "urn:r"}, {"", "urn:r"}};
+    CXmlElement *element = document.GetDocumentElement()->GetFirstElement();
+    for (const auto &[type, uri] : expected) {
+        EXPECT_EQ(CClassfactoryBase::GetElementType(element), type);
+        EXPECT_EQ(CClassfactoryBase::GetElementTypeNamespaceUri(element), uri);
+        element = element->GetNextSiblingElement();
+    }
 }
 
 TEST(TreeHelpers, ElementNameMatchFollowsTheNamespaceOptions)
 {
     CXmlDocument document;
     document.LoadXml("<r xmlns='urn:r'><e/></r>");
-    CXmlElement *element = Child(document, 0);
+    CXmlElement *element = document.GetDocumentElement()->GetFirstElement();
     CSmartPtr<Helpers> helpers = new Helpers;
 
     CSerializationContext context;
