@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
 
 #include "ExceptionAssert.h"
 #include "GeneratedTestClasses.h"
@@ -21,7 +20,6 @@ CElementInfo *Mandatory(const char *name, int property)
 {
     return new CElementInfoSeqPrimMnd(name, TestNs, property, false, ItemType_string, nullptr, Keep, NoFacets, nullptr);
 }
-
 
 CElementInfo **Entries(std::initializer_list<CElementInfo *> entries) { return Table(entries); }
 CAttributeInfo **Attributes(std::initializer_list<CAttributeInfo *> entries) { return Table(entries); }
@@ -88,11 +86,11 @@ const CTestTables &DefaultTables()
     return tables;
 }
 
-CSmartPtr<CTestObject> Read(const CTestTables &tables, int properties, const char *text,
+CSmartPtr<CTestObject> Read(const CTestTables &tables, int properties, const std::string &text,
                             const CSerializationContext &context = CSerializationContext())
 {
     CSmartPtr<CTestObject> object = new CTestObject(tables, properties);
-    object->FromXml(text, context);
+    object->FromXml(text.c_str(), context);
     return object;
 }
 
@@ -168,21 +166,32 @@ TEST(MetadataEntry, DefaultsAreComparedAsText)
     context.SetDefaultNamespaceURI(TestNs);
     context.GetNamespaceAliases().Add("xsi", "http://www.w3.org/2001/XMLSchema-instance");
     context.SetNoOptionalAttributeDefaultOutput(true);
+    const std::string open = "<defaults xmlns=\"urn:t\" xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\"";
     // 1 is not the text "1.0", and a required attribute is written whatever its value.
-    EXPECT_EQ("<defaults xmlns=\"urn:t\" xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" r=\"1\" q=\"x\">"
-              "<n xsi:nil=\"true\"/></defaults>",
+    EXPECT_EQ(open + " r=\"1\" q=\"x\"><n xsi:nil=\"true\"/></defaults>",
               object->ToXml(false, false, EOLType_LF, context));
-    // A nil primitive element leaves its property alone.
-    CSmartPtr<CTestObject> back = Read(DefaultTables(), 3,
-                                       "<defaults xmlns=\"urn:t\" xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" "
-                                       "q=\"x\"><n xsi:nil=\"1\">7</n></defaults>");
-    EXPECT_FALSE(back->Property(2).IsValid());
-    back = Read(DefaultTables(), 3,
-                "<defaults xmlns=\"urn:t\" xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" q=\"x\">"
-                "<n xsi:nil=\"false\">7</n></defaults>");
-    EXPECT_EQ(7, back->Property(2).GetI4());
+    // A nil primitive element leaves its property alone; "false" reads the text.
+    EXPECT_FALSE(Read(DefaultTables(), 3, open + " q=\"x\"><n xsi:nil=\"1\">7</n></defaults>")->Property(2).IsValid());
+    EXPECT_EQ(7,
+              Read(DefaultTables(), 3, open + " q=\"x\"><n xsi:nil=\"false\">7</n></defaults>")->Property(2).GetI4());
     // Without a default, an empty i4 fails in its conversion.
     EXPECT_THROW(Read(DefaultTables(), 3, "<defaults xmlns=\"urn:t\" q=\"x\"><n/></defaults>"), CVxException);
+}
+
+TEST(MetadataEntry, SettledOddities)
+{
+    // A collection in an all group is never found, and its Validate is the base's.
+    static const CTestTables bad{Parent(XmlElementGroupType_All, XmlElementType_Element, "bad"),
+                                 Entries({new CElementInfoAllClsCol("item", TestNs, 0, XmlElementType_Element)}),
+                                 Attributes({})};
+    EXPECT_EQ((Levels{"Validation: Failed to process the element.\nPath: /bad",
+                      "Exception: Not implemented, should never be called"}),
+              Chain([] { Read(bad, 1, "<bad xmlns=\"urn:t\"/>"); }));
+    // Only a primitive entry checks facets.
+    const CElementInfoSeqEnumOpt entry("e", TestNs, 0, false, ColorToString, ColorFromString, nullptr);
+    VxVariant value;
+    value.SetI4(1);
+    EXPECT_TRUE(Throws<CVxException>([&] { entry.CheckRestriction(value); }, "Cannot CheckRestriction for type: i4"));
 }
 
 TEST(MetadataEntry, WildcardDefaultNamespace)
