@@ -170,13 +170,6 @@ void CBasket::CreateChildren()
     Property(Pay).SetXmlObject(new CTestObject(PaymentTables(), 2));
 }
 
-CTestObjectCol<CItem> *CBasket::Lines() const
-{
-    VxVariant value;
-    const_cast<CBasket *>(this)->AccessProperty(Items, true, value);
-    return static_cast<CTestObjectCol<CItem> *>(static_cast<CXmlCollectionBase *>(value.GetXmlCollection()));
-}
-
 CPick::CPick() : CTestObject(PickTables(), Count) { Init(); }
 
 void CPick::CreateChildren()

@@ -119,7 +119,11 @@ class CBasket final : public CTestObject
 public:
     enum { Owner, Items, Pay, Memo, Count };
     CBasket();
-    CTestObjectCol<CItem> *Lines() const;
+    CTestObjectCol<CItem> *Lines()
+    {
+        vx::CXmlCollectionBase *lines = Property(Items).GetXmlCollection();
+        return static_cast<CTestObjectCol<CItem> *>(lines);
+    }
 
 protected:
     void CreateChildren() override;
