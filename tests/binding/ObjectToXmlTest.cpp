@@ -111,20 +111,15 @@ protected:
     }
 };
 
-// Records each event as "type:payload", the payload being "null", "item" for the
-// added item, or the index an int payload held during the call.
+// Records each event as "type:payload", the payload being "item" for the added item,
+// "null", or "other" for anything else.
 class Recorder : public IEventSink
 {
 public:
     void OnEvent(CXmlObjectBase *eventSource, MsgType type, void *data) override
     {
         source = eventSource;
-        std::string payload = "null";
-        if (data == item)
-            payload = "item";
-        else if (data)
-            payload = std::to_string(*static_cast<int *>(data));
-        events.push_back(std::to_string(type) + ":" + payload);
+        events.push_back(std::to_string(type) + (data == item ? ":item" : data ? ":other" : ":null"));
     }
     CXmlObjectBase *source = nullptr;
     const void *item = nullptr;

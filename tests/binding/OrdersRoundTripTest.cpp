@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <regex>
 #include <string>
 
@@ -28,6 +29,20 @@ namespace {
                                          << "\n----\n" << actual.substr(from, 160);
 }
 
+// Each match of the pattern replaced by what the function makes of it.
+std::string ReplaceEach(const std::string &text, const std::regex &pattern,
+                        const std::function<std::string(const std::smatch &)> &replace)
+{
+    std::string result;
+    auto from = text.cbegin();
+    for (std::sregex_iterator it(text.cbegin(), text.cend(), pattern), end; it != end; ++it) {
+        result.append(from, (*it)[0].first);
+        result += replace(*it);
+        from = (*it)[0].second;
+    }
+    return result.append(from, text.cend());
+}
+
 CSmartPtr<Orders::COrdersType> ReadOrders(const std::string &text)
 {
     CSmartPtr<Orders::COrdersType> orders = Orders::COrdersType::CreateInstance();
@@ -35,9 +50,10 @@ CSmartPtr<Orders::COrdersType> ReadOrders(const std::string &text)
     return orders;
 }
 
-// An unformatted generator document with the library's normalisations applied by hand:
-// the declaration, no line end after the last tag, canonical numbers and booleans, the all group in schema order, no
-// nil primitive, and an element equal to its default written empty.
+// A generator document with the library's normalisations applied by hand: the
+// declaration, no line end after the last tag when unformatted, canonical numbers and
+// booleans, the all group in schema order, no nil primitive, and an element equal to its
+// default written empty.
 std::string Normalised(std::string text, bool formatted)
 {
     text.replace(0, text.find("?>") + 2, "<?xml version=\"1.0\"?>");
@@ -53,34 +69,20 @@ std::string Normalised(std::string text, bool formatted)
     text = std::regex_replace(text, std::regex("\n?\t*<note xsi:nil=\"true\"/>"), "");
     text = std::regex_replace(text, std::regex("<priority>3</priority>"), "<priority/>");
     // Doubles come back in the one form of the conversions ("5E-1" is "0.5").
-    std::string doubles;
-    auto rest = text.cbegin();
-    const std::regex discount("<discount>([^<]*)</discount>");
-    for (std::sregex_iterator it(text.cbegin(), text.cend(), discount), end; it != end; ++it) {
-        doubles.append(rest, (*it)[0].first);
-        doubles += "<discount>" + CConversions::r8ToString(std::stod((*it)[1])) + "</discount>";
-        rest = (*it)[0].second;
-    }
-    doubles.append(rest, text.cend());
-    text = doubles;
+    text = ReplaceEach(text, std::regex("<discount>([^<]*)</discount>"), [](const std::smatch &match) {
+        return "<discount>" + CConversions::r8ToString(std::stod(match[1])) + "</discount>";
+    });
     const std::regex customer("(<customer [^>]*>)([\\s\\S]*?)(\n?\t*)</customer>");
-    std::string result;
-    auto from = text.cbegin();
-    for (std::sregex_iterator it(text.cbegin(), text.cend(), customer), end; it != end; ++it) {
-        result.append(from, (*it)[0].first);
-        const std::string children = (*it)[2];
-        result += (*it)[1];
-        for (const char *name : {"name", "email", "vip", "address"}) {
+    return ReplaceEach(text, customer, [](const std::smatch &match) {
+        std::string result = match[1];
+        const std::string children = match[2];
+        for (const std::string name : {"name", "email", "vip", "address"}) {
             std::smatch child;
-            const std::string open = std::string("\n?\t*<") + name + ">";
-            if (std::regex_search(children, child, std::regex(open + "[\\s\\S]*?</" + name + ">")))
+            if (std::regex_search(children, child, std::regex("\n?\t*<" + name + ">[\\s\\S]*?</" + name + ">")))
                 result += child[0];
         }
-        result += std::string((*it)[3]) + "</customer>";
-        from = (*it)[0].second;
-    }
-    result.append(from, text.cend());
-    return result;
+        return result + std::string(match[3]) + "</customer>";
+    });
 }
 
 } // namespace
