@@ -69,8 +69,9 @@ TEST(TreeHelpers, ChoiceReadCollectionReadsOnceAndCountsProgress)
     CSerializationContext lenient;
     lenient.SetIgnoreInvalidCollectionCounts(true);
     // Two elements are below the minimum, which matters only where the count is checked.
-    CSmartPtr<CstringCol> collection = new CstringCol("a", "", 3, -1, nullptr, -1, -1, nullptr, nullptr, nullptr, nullptr,
-                                                      -1, -1, -1, CWhitespaceUtils::WhitespaceRule_None, nullptr);
+    CSmartPtr<CstringCol> collection = new CstringCol("a", "", 3, -1, nullptr, -1, -1, nullptr, nullptr, nullptr,
+                                                      nullptr, -1, -1, -1, CWhitespaceUtils::WhitespaceRule_None,
+                                                      nullptr);
 
     CXmlElement *cursor = root->GetFirstElement();
     std::int32_t count = 1;
