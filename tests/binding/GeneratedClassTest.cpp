@@ -214,7 +214,7 @@ TEST(GeneratedClass, RootPrologueAttributesAndSchema)
 
 TEST(GeneratedClass, ReadingFailuresCarryTheirPathOnce)
 {
-    EXPECT_EQ((Levels{"Exception: " + At("Failed to process the element.", "/basket/item"), 
+    EXPECT_EQ((Levels{"Exception: " + At("Failed to process the element.", "/basket/item"),
                       "InvalidValue: The value [x] can not be converted to a i4"}),
               Chain([&] { Read(Basket(Person + "<item id=\"1\"><qty>x</qty></item>" + Pay)); }));
     // An enumeration text goes to the generated function as it stands, spaces and all.
