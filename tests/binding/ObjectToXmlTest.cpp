@@ -2,14 +2,11 @@
 
 #include <string>
 
-#include "Exceptions.h"
-#include "SerializationContext.h"
 #include "ExceptionAssert.h"
+#include "Orders.h"
+#include "PlainObject.h"
 #include "TestSupport.h"
 #include "TreeObject.h"
-#include "Orders.h"
-#include "XmlWriter.h"
-#include "PlainObject.h"
 
 using namespace VxXmlLib16;
 using VxTest::CTreeObject;
