@@ -234,13 +234,6 @@ TEST(GeneratedClass, ReadingFailuresCarryTheirPathOnce)
     CSmartPtr<CBasket> read = Read(Basket(Person + Line + Pay + "<memo xsi:nil=\"TRUE\"><text>t</text></memo>"));
     EXPECT_TRUE(read->Child<CNote>(CBasket::Memo)->IsNil());
     EXPECT_FALSE(read->Child<CNote>(CBasket::Memo)->Property(CNote::Text).IsValid());
-
-    // A setter's fault is wrapped with the path of the attribute.
-    CSmartPtr<CItem> item = new CItem();
-    item->m_failingSetter = CItem::Id;
-    EXPECT_EQ((Levels{"Exception: " + At("Failed to set the property value [1].", "/item/@id"),
-                      "InvalidValue: Refused by the setter"}),
-              Chain([&] { item->FromXml("<item xmlns=\"urn:t\" id=\"1\"><qty>2</qty></item>", Context()); }));
 }
 
 TEST(GeneratedClass, TableHelpers)

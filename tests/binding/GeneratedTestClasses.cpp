@@ -135,8 +135,6 @@ void CTestObject::AccessProperty(int propertyIndex, bool read, VxVariant &value)
         value = m_properties.at(propertyIndex);
         return;
     }
-    if (propertyIndex == m_failingSetter)
-        throw CVxInvalidValueException("Refused by the setter");
     m_properties.at(propertyIndex) = value;
 }
 

@@ -64,8 +64,6 @@ public:
     {
         return static_cast<T *>(static_cast<vx::CXmlObjectBase *>(m_properties[index].GetXmlObject()));
     }
-    // The setter of this property refuses every value, as a generated range check would.
-    int m_failingSetter = -1;
 
 protected:
     // Mandatory children and collections that the generated constructor makes.

@@ -129,9 +129,14 @@ TEST(OrdersRoundTrip, FailuresNameTheirPlace)
     CSmartPtr<Orders::COrdersType> orders = ReadOrders(text);
     const std::size_t quantity = text.find("<quantity>") + 10;
     text.replace(quantity, text.find('<', quantity) - quantity, "0");
-    // On reading the path is named once, by the element whose setter refused the value.
+    // On reading the path is named once, by the element or attribute whose setter refused
+    // the value.
     EXPECT_EQ((Levels{"Exception: Failed to set the property value.\nPath: /orders/order[1]/line[1]/quantity",
                       "InvalidValue: The quantity [0] must lie between 1 and 10000"}),
+              Chain([&] { ReadOrders(text); }));
+    text.replace(text.find(" id=\"") + 5, 9, "bad");
+    EXPECT_EQ((Levels{"Exception: Failed to set the property value [bad].\nPath: /orders/order[1]/@id",
+                      "InvalidValue: Invalid Value for id [bad]."}),
               Chain([&] { ReadOrders(text); }));
     // On writing, one level per element.
     orders->GetOrder()->Item(1)->GetLine()->Item(0)->SetSku("no sku");
