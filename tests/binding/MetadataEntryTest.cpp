@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-
 #include "ExceptionAssert.h"
 #include "GeneratedTestClasses.h"
 
@@ -21,7 +19,6 @@ CElementInfo *Mandatory(const char *name, int property)
 {
     return new CElementInfoSeqPrimMnd(name, TestNs, property, false, ItemType_string, nullptr, Keep, NoFacets, nullptr);
 }
-
 
 CElementInfo **Entries(std::initializer_list<CElementInfo *> entries) { return Table(entries); }
 CAttributeInfo **Attributes(std::initializer_list<CAttributeInfo *> entries) { return Table(entries); }
@@ -40,59 +37,12 @@ const CTestTables &GroupTables()
 }
 
 CSmartPtr<CXmlObjectBase> MakeGroup(int, const char *) { return new CTestObject(GroupTables(), 2); }
-CSmartPtr<CXmlObjectBase> NoClass(CXmlElement *) { return nullptr; }
 
-// outer: an optional pseudo group G, then an optional c.
-const CTestTables &OuterTables()
-{
-    static const CTestTables tables{
-        Parent(XmlElementGroupType_Sequence, XmlElementType_Element, "outer"),
-        Entries({new CElementInfoSeqClsOpt("G", TestNs, 0, XmlElementType_Pseudo, MakeGroup, 0),
-                 new CElementInfoSeqPrimOpt("c", TestNs, 1, false, ItemType_string, nullptr, Keep, NoFacets, nullptr)}),
-        Attributes({})};
-    return tables;
-}
-
-// ch: a choice between the pseudo group G and c.
-const CTestTables &ChoiceTables()
-{
-    static const CTestTables tables{
-        Parent(XmlElementGroupType_Choice, XmlElementType_Element, "ch"),
-        Entries({new CElementInfoChoiceClsOpt("G", TestNs, 0, XmlElementType_Pseudo, MakeGroup, 0),
-                 new CElementInfoChoicePrimOpt("c", TestNs, 1, false, ItemType_string, nullptr, Keep, NoFacets,
-                                               nullptr)}),
-        Attributes({})};
-    return tables;
-}
-
-// strict: a mandatory substitution, a mandatory named wildcard, and a mandatory x.
-const CTestTables &StrictTables()
-{
-    static const CTestTables tables{
-        Parent(XmlElementGroupType_Sequence, XmlElementType_Element, "strict"),
-        Entries({new CElementInfoSeqAbsClsMnd("s", TestNs, 0, XmlElementType_Element, NoClass),
-                 new CElementInfoSeqUntpdMnd("w", TestNs, 1, "##any", TestNs), Mandatory("x", 2)}),
-        Attributes({})};
-    return tables;
-}
-
-// defaults: an optional r8 attribute defaulting to "1.0", a required one defaulting to
-// "x", and a nillable element n.
-const CTestTables &DefaultTables()
-{
-    static const CTestTables tables{
-        Parent(XmlElementGroupType_Sequence, XmlElementType_Element, "defaults"),
-        Entries({new CElementInfoSeqPrimOpt("n", TestNs, 2, true, ItemType_i4, nullptr, Keep, NoFacets, nullptr)}),
-        Attributes({new CAttributeInfoPrimitive("r", "", 0, true, ItemType_r8, nullptr, Keep, NoFacets, "1.0"),
-                    new CAttributeInfoPrimitive("q", "", 1, false, ItemType_string, nullptr, Keep, NoFacets, "x")})};
-    return tables;
-}
-
-CSmartPtr<CTestObject> Read(const CTestTables &tables, int properties, const char *text,
+CSmartPtr<CTestObject> Read(const CTestTables &tables, int properties, const std::string &text,
                             const CSerializationContext &context = CSerializationContext())
 {
     CSmartPtr<CTestObject> object = new CTestObject(tables, properties);
-    object->FromXml(text, context);
+    object->FromXml(text.c_str(), context);
     return object;
 }
 
@@ -106,33 +56,50 @@ public:
 
 TEST(MetadataEntry, PseudoGroupThatFailsRewinds)
 {
-    CSmartPtr<CTestObject> whole = Read(OuterTables(), 2, "<outer xmlns=\"urn:t\"><a>1</a><b>2</b><c>3</c></outer>");
+    // outer: an optional pseudo group G, then an optional c.
+    static const CTestTables outer{
+        Parent(XmlElementGroupType_Sequence, XmlElementType_Element, "outer"),
+        Entries({new CElementInfoSeqClsOpt("G", TestNs, 0, XmlElementType_Pseudo, MakeGroup, 0),
+                 new CElementInfoSeqPrimOpt("c", TestNs, 1, false, ItemType_string, nullptr, Keep, NoFacets, nullptr)}),
+        Attributes({})};
+    CSmartPtr<CTestObject> whole = Read(outer, 2, "<outer xmlns=\"urn:t\"><a>1</a><b>2</b><c>3</c></outer>");
     EXPECT_EQ("2", whole->Child<CTestObject>(0)->Property(1).GetString());
     EXPECT_EQ("3", whole->Property(1).GetString());
     // b is missing: the group counts as absent, no fault escapes it, and a is left over.
     EXPECT_TRUE(Throws<CVxException>(
-        [] { Read(OuterTables(), 2, "<outer xmlns=\"urn:t\"><a>1</a><c>3</c></outer>"); },
+        [] { Read(outer, 2, "<outer xmlns=\"urn:t\"><a>1</a><c>3</c></outer>"); },
         "Failed read all the elements held within the element [outer]. The unexpected element [a] remains un "
         "processed\nPath: /outer"));
 }
 
 TEST(MetadataEntry, ChoiceGivesAnUnusedPseudoAlternativeBack)
 {
-    CSmartPtr<CTestObject> choice = Read(ChoiceTables(), 2, "<ch xmlns=\"urn:t\"><c>1</c></ch>");
+    // ch: a choice between the pseudo group G and c.
+    static const CTestTables tables{
+        Parent(XmlElementGroupType_Choice, XmlElementType_Element, "ch"),
+        Entries({new CElementInfoChoiceClsOpt("G", TestNs, 0, XmlElementType_Pseudo, MakeGroup, 0),
+                 new CElementInfoChoicePrimOpt("c", TestNs, 1, false, ItemType_string, nullptr, Keep, NoFacets,
+                                               nullptr)}),
+        Attributes({})};
+    CSmartPtr<CTestObject> choice = Read(tables, 2, "<ch xmlns=\"urn:t\"><c>1</c></ch>");
     EXPECT_EQ(ItemType_XmlObject, choice->Property(0).GetTypeAsEnum());
     EXPECT_EQ(nullptr, static_cast<CXmlObjectBase *>(choice->Property(0).GetXmlObject()));
     EXPECT_EQ("1", choice->Property(1).GetString());
-    choice = Read(ChoiceTables(), 2, "<ch xmlns=\"urn:t\"><a>1</a><b>2</b></ch>");
+    choice = Read(tables, 2, "<ch xmlns=\"urn:t\"><a>1</a><b>2</b></ch>");
     EXPECT_NE(nullptr, static_cast<CXmlObjectBase *>(choice->Property(0).GetXmlObject()));
     EXPECT_FALSE(choice->Property(1).IsValid());
 }
 
 TEST(MetadataEntry, MandatoryEntriesNameWhatIsMissing)
 {
-    EXPECT_TRUE(Throws<CVxException>([] { Read(StrictTables(), 3, "<strict xmlns=\"urn:t\"><s/></strict>"); },
+    static const CTestTables strict{
+        Parent(XmlElementGroupType_Sequence, XmlElementType_Element, "strict"),
+        Entries({new CElementInfoSeqAbsClsMnd("s", TestNs, 0, XmlElementType_Element,
+                                              [](CXmlElement *) { return CSmartPtr<CXmlObjectBase>(); })}),
+        Attributes({})};
+    EXPECT_TRUE(Throws<CVxException>([] { Read(strict, 1, "<strict xmlns=\"urn:t\"><s/></strict>"); },
                                      "Failed to find a suitable substitution element for [s].\nPath: /strict"));
 
-    // Without the substitution entry the wildcard comes first.
     static const CTestTables wildcard{Parent(XmlElementGroupType_Sequence, XmlElementType_Element, "wild"),
                                       Entries({new CElementInfoSeqUntpdMnd("w", TestNs, 0, "##any", TestNs)}),
                                       Attributes({})};
@@ -145,10 +112,8 @@ TEST(MetadataEntry, MandatoryEntriesNameWhatIsMissing)
                                      "Failed to find the required element from namespace [urn:t].\nPath: /wild"));
     EXPECT_TRUE(Throws<CVxException>([&] { readWild("<wild xmlns=\"urn:t\"/>"); },
                                      "Failed to find the required child element [w].\nPath: /wild"));
-}
 
-TEST(MetadataEntry, MandatorySearchSkipsStrangersOnlyWhenAllowed)
-{
+    // The search for a mandatory entry skips strangers only when unknown elements are ignored.
     static const CTestTables tables{Parent(XmlElementGroupType_Sequence, XmlElementType_Element, "m"),
                                     Entries({Mandatory("x", 0)}), Attributes({})};
     CSerializationContext skipping;
@@ -160,7 +125,14 @@ TEST(MetadataEntry, MandatorySearchSkipsStrangersOnlyWhenAllowed)
 
 TEST(MetadataEntry, DefaultsAreComparedAsText)
 {
-    CSmartPtr<CTestObject> object = new CTestObject(DefaultTables(), 3);
+    // An optional r8 attribute defaulting to "1.0", a required one defaulting to "x", and
+    // a nillable element n.
+    static const CTestTables defaults{
+        Parent(XmlElementGroupType_Sequence, XmlElementType_Element, "defaults"),
+        Entries({new CElementInfoSeqPrimOpt("n", TestNs, 2, true, ItemType_i4, nullptr, Keep, NoFacets, nullptr)}),
+        Attributes({new CAttributeInfoPrimitive("r", "", 0, true, ItemType_r8, nullptr, Keep, NoFacets, "1.0"),
+                    new CAttributeInfoPrimitive("q", "", 1, false, ItemType_string, nullptr, Keep, NoFacets, "x")})};
+    CSmartPtr<CTestObject> object = new CTestObject(defaults, 3);
     object->Property(0).SetR8(1.0);
     object->Property(1).SetString("x");
     object->Property(2).SetNil();
@@ -168,21 +140,31 @@ TEST(MetadataEntry, DefaultsAreComparedAsText)
     context.SetDefaultNamespaceURI(TestNs);
     context.GetNamespaceAliases().Add("xsi", "http://www.w3.org/2001/XMLSchema-instance");
     context.SetNoOptionalAttributeDefaultOutput(true);
+    const std::string open = "<defaults xmlns=\"urn:t\" xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\"";
     // 1 is not the text "1.0", and a required attribute is written whatever its value.
-    EXPECT_EQ("<defaults xmlns=\"urn:t\" xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" r=\"1\" q=\"x\">"
-              "<n xsi:nil=\"true\"/></defaults>",
+    EXPECT_EQ(open + " r=\"1\" q=\"x\"><n xsi:nil=\"true\"/></defaults>",
               object->ToXml(false, false, EOLType_LF, context));
-    // A nil primitive element leaves its property alone.
-    CSmartPtr<CTestObject> back = Read(DefaultTables(), 3,
-                                       "<defaults xmlns=\"urn:t\" xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" "
-                                       "q=\"x\"><n xsi:nil=\"1\">7</n></defaults>");
-    EXPECT_FALSE(back->Property(2).IsValid());
-    back = Read(DefaultTables(), 3,
-                "<defaults xmlns=\"urn:t\" xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" q=\"x\">"
-                "<n xsi:nil=\"false\">7</n></defaults>");
-    EXPECT_EQ(7, back->Property(2).GetI4());
+    // A nil primitive element leaves its property alone; "false" reads the text.
+    EXPECT_FALSE(Read(defaults, 3, open + " q=\"x\"><n xsi:nil=\"1\">7</n></defaults>")->Property(2).IsValid());
+    EXPECT_EQ(7, Read(defaults, 3, open + " q=\"x\"><n xsi:nil=\"false\">7</n></defaults>")->Property(2).GetI4());
     // Without a default, an empty i4 fails in its conversion.
-    EXPECT_THROW(Read(DefaultTables(), 3, "<defaults xmlns=\"urn:t\" q=\"x\"><n/></defaults>"), CVxException);
+    EXPECT_THROW(Read(defaults, 3, "<defaults xmlns=\"urn:t\" q=\"x\"><n/></defaults>"), CVxException);
+}
+
+TEST(MetadataEntry, SettledOddities)
+{
+    // A collection in an all group is never found, and its Validate is the base's.
+    static const CTestTables bad{Parent(XmlElementGroupType_All, XmlElementType_Element, "bad"),
+                                 Entries({new CElementInfoAllClsCol("item", TestNs, 0, XmlElementType_Element)}),
+                                 Attributes({})};
+    EXPECT_EQ((Levels{"Validation: Failed to process the element.\nPath: /bad",
+                      "Exception: Not implemented, should never be called"}),
+              Chain([] { Read(bad, 1, "<bad xmlns=\"urn:t\"/>"); }));
+    // Only a primitive entry checks facets.
+    const CElementInfoSeqEnumOpt entry("e", TestNs, 0, false, ColorToString, ColorFromString, nullptr);
+    VxVariant value;
+    value.SetI4(1);
+    EXPECT_TRUE(Throws<CVxException>([&] { entry.CheckRestriction(value); }, "Cannot CheckRestriction for type: i4"));
 }
 
 TEST(MetadataEntry, WildcardDefaultNamespace)

@@ -2,14 +2,11 @@
 
 #include <string>
 
-#include "Exceptions.h"
-#include "SerializationContext.h"
 #include "ExceptionAssert.h"
+#include "Orders.h"
+#include "PlainObject.h"
 #include "TestSupport.h"
 #include "TreeObject.h"
-#include "XmlCollectionBase.h"
-#include "XmlWriter.h"
-#include "PlainObject.h"
 
 using namespace VxXmlLib16;
 using VxTest::CTreeObject;
@@ -71,27 +68,22 @@ const char *const RootTag = "<doc xmlns=\"urn:d\" xmlns:ex=\"urn:ex\" xmlns:zz=\
 
 } // namespace
 
-TEST_F(SampleDocument, FormattedWithLineFeedsAndCrLf)
+TEST_F(SampleDocument, FormattedAndUnformatted)
 {
-    const std::string expected = std::string(Prolog) + RootTag + "\n"
-                                 "\t<title>Fish &amp; Chips &gt; \"x\"\nline2</title>\n"
-                                 "\t<ex:item xmlns:AA=\"urn:other\" AA:flag=\"yes\">\n"
-                                 "\t\t<note/>\n"
-                                 "\t\t<AA:sub>1</AA:sub>\n"
-                                 "\t</ex:item>\n"
-                                 "\t<local/>\n"
-                                 "\t<AA:other xmlns:AA=\"urn:new\"/>\n"
-                                 "</doc>\n";
-    ExpectWrittenAs(true, expected);
-}
-
-TEST_F(SampleDocument, UnformattedKeepsLineEndsOnlyInTheProlog)
-{
-    const std::string expected = std::string(Prolog) + RootTag +
-                                 "<title>Fish &amp; Chips &gt; \"x\"\nline2</title>"
-                                 "<ex:item xmlns:AA=\"urn:other\" AA:flag=\"yes\"><note/><AA:sub>1</AA:sub></ex:item>"
-                                 "<local/><AA:other xmlns:AA=\"urn:new\"/></doc>";
-    ExpectWrittenAs(false, expected);
+    ExpectWrittenAs(true, std::string(Prolog) + RootTag +
+                              "\n\t<title>Fish &amp; Chips &gt; \"x\"\nline2</title>\n"
+                              "\t<ex:item xmlns:AA=\"urn:other\" AA:flag=\"yes\">\n"
+                              "\t\t<note/>\n"
+                              "\t\t<AA:sub>1</AA:sub>\n"
+                              "\t</ex:item>\n"
+                              "\t<local/>\n"
+                              "\t<AA:other xmlns:AA=\"urn:new\"/>\n"
+                              "</doc>\n");
+    // Unformatted, only the prolog keeps its line ends.
+    ExpectWrittenAs(false, std::string(Prolog) + RootTag +
+                               "<title>Fish &amp; Chips &gt; \"x\"\nline2</title>"
+                               "<ex:item xmlns:AA=\"urn:other\" AA:flag=\"yes\"><note/><AA:sub>1</AA:sub></ex:item>"
+                               "<local/><AA:other xmlns:AA=\"urn:new\"/></doc>");
 }
 
 TEST_F(SampleDocument, ContextIndentCharsAndNoHeader)
@@ -102,13 +94,6 @@ TEST_F(SampleDocument, ContextIndentCharsAndNoHeader)
     const std::string start = std::string(RootTag) + "\n  <title>";
     EXPECT_EQ(text.substr(0, start.size()), start);
     EXPECT_NE(text.find("\n    <AA:sub>1</AA:sub>\n"), std::string::npos) << text;
-}
-
-TEST(ObjectToXml, DefaultArgumentsWriteAFormattedDocumentWithHeader)
-{
-    CSmartPtr<CTreeObject> root = new CTreeObject("r");
-    root->AddChild(new CTreeObject("c"));
-    EXPECT_EQ(root->ToXml(), "<?xml version=\"1.0\"?>\n<r>\n\t<c/>\n</r>\n");
 }
 
 namespace {
@@ -123,81 +108,43 @@ protected:
     }
 };
 
-// The smallest real collection: its events can be fired by hand.
-class Events final : public CXmlCollectionBase
-{
-public:
-    Events() : CXmlCollectionBase("event", "urn:e", 0, -1) {}
-    int GetCount() const override { return 0; }
-    void Clear() override {}
-    void Remove(int index) override
-    {
-        FireOnCollectionRemove(index);
-        FireOnCollectionRemoveComplete(index);
-    }
-    using CXmlCollectionBase::FireOnCollectionAdd;
-    using CXmlCollectionBase::FireOnCollectionAddComplete;
-    using CXmlCollectionBase::FireOnCollectionChange;
-
-protected:
-    void ToXml_Int(CXmlWriter *, bool, const char *, const CSerializationContext &, bool) const override {}
-    CXmlElement *FromXml_Int(CXmlElement *, CXmlElement *firstChild, const CSerializationContext &, bool) override
-    {
-        return firstChild;
-    }
-};
-
-// Records each event as "type:payload", the payload being "null", "item" for the
-// added item, or the index an int payload held during the call.
+// Records each event as "type:payload", the payload being "item" for the added item,
+// "null", or "other" for anything else.
 class Recorder : public IEventSink
 {
 public:
-    explicit Recorder(const void *item) : m_item(item) {}
     void OnEvent(CXmlObjectBase *eventSource, MsgType type, void *data) override
     {
         source = eventSource;
-        std::string payload = "null";
-        if (data == m_item)
-            payload = "item";
-        else if (data)
-            payload = std::to_string(*static_cast<int *>(data));
-        events.push_back(std::to_string(type) + ":" + payload);
+        events.push_back(std::to_string(type) + (data == item ? ":item" : data ? ":other" : ":null"));
     }
     CXmlObjectBase *source = nullptr;
+    const void *item = nullptr;
     std::vector<std::string> events;
-
-private:
-    const void *m_item;
 };
 
 } // namespace
 
-TEST(ObjectToXml, ElementLeftOpenFailsAtTheEnd)
+TEST(ObjectToXml, MisuseOfTheWriterOrOfACollection)
 {
     CSmartPtr<Unclosed> object = new Unclosed;
     EXPECT_TRUE(Throws<CVxException>([&] { object->ToXml(); }, "An Element has not been closed."));
-}
-
-TEST(ObjectToXml, CollectionIsNoTopLevelObject)
-{
-    CSmartPtr<Events> collection = new Events;
+    CSmartPtr<Orders::CLineTypeCol> collection = new Orders::CLineTypeCol("line", Orders::Namespace, 0, -1);
     EXPECT_TRUE(Throws<CVxException>([&] { collection->ToXml(); },
                                      "CXmlCollectionBase::GetTargetNamespace Should not be used from within a "
-                                "Collection (program logic error)"));
+                                     "Collection (program logic error)"));
 }
 
 TEST(CollectionEvents, EachEventCarriesItsTypeAndPayload)
 {
-    CSmartPtr<Events> collection = new Events;
-    int item = 0;
-    Recorder recorder(&item);
+    Recorder recorder; // outlives the collection, which fires events as it dies
+    CSmartPtr<Orders::CLineTypeCol> collection = new Orders::CLineTypeCol("line", Orders::Namespace, 0, -1);
+    CSmartPtr<Orders::CLineType> line = Orders::CLineType::CreateInstance();
+    recorder.item = static_cast<CXmlObjectBase *>(line);
     collection->AddEventListener(&recorder);
-    collection->FireOnCollectionChange();
-    collection->FireOnCollectionAdd(&item);
-    collection->FireOnCollectionAddComplete(&item);
-    collection->Remove(5);
-    collection->Remove(-1); // no index: no pointer
-    EXPECT_EQ(recorder.events,
-              (std::vector<std::string>{"0:null", "1:item", "2:item", "3:5", "4:5", "3:null", "4:null"}));
+    collection->Add(line);
+    collection->Remove(0);
+    // The change event carries nothing; a removal by node knows no index.
+    EXPECT_EQ(recorder.events, (std::vector<std::string>{"1:item", "2:item", "0:null", "3:null", "4:null", "0:null"}));
     EXPECT_EQ(recorder.source, static_cast<CXmlObjectBase *>(collection));
 }

@@ -3,8 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 #include <typeinfo>
+#include <vector>
 
 #include "Exceptions.h"
 
@@ -24,5 +26,34 @@ template <class Expected, class Action>
     }
     return ::testing::AssertionFailure() << "no exception";
 }
+
+// The exception chain of an action, outermost first: one "Kind: message" per level, the
+// message with its path. Empty when nothing was thrown.
+inline std::vector<std::string> Chain(const std::function<void()> &action)
+{
+    using namespace VxXmlLib16;
+    static const std::pair<const std::type_info *, const char *> kinds[] = {
+        {&typeid(CVxException), "Exception"},
+        {&typeid(CVxValidationException), "Validation"},
+        {&typeid(CVxInvalidValueException), "InvalidValue"},
+        {&typeid(CVxInvalidNamespaceException), "InvalidNamespace"},
+        {&typeid(CVxInvalidParamException), "InvalidParam"},
+        {&typeid(CVxInvalidStateException), "InvalidState"}};
+    std::vector<std::string> levels;
+    try {
+        action();
+    } catch (const CVxException &e) {
+        for (const CVxException *level = &e; level; level = level->GetInnerException()) {
+            std::string kind = "Other";
+            for (const auto &[type, name] : kinds)
+                if (typeid(*level) == *type)
+                    kind = name;
+            levels.push_back(kind + ": " + level->GetMessage());
+        }
+    }
+    return levels;
+}
+
+using Levels = std::vector<std::string>;
 
 } // namespace VxTest
