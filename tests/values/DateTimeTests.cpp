@@ -8,55 +8,35 @@ using VxXmlLib16::CVxInvalidStateException;
 using VxXmlLib16::CVxInvalidValueException;
 using VxTest::Throws;
 
-TEST(DateTime, UnsetValuesPrintTheNotSetText)
+TEST(DateTime, TextFormsAndUnsetValues)
 {
     EXPECT_EQ("Error: Date Not Set", CDateTime().ToString());
-    EXPECT_EQ("Error: Date Not Set", CDateTime(CDateTime::dt_date).ToString());
+    // The unset test comes before the format.
     EXPECT_EQ("Error: Date Not Set", CDateTime(CDateTime::dt_date).ToString("G"));
     EXPECT_EQ("00:00:00", CDateTime(CDateTime::dt_time).ToString());
-}
-
-TEST(DateTime, FormatsOtherThanSortable)
-{
     const CDateTime value("2001-10-26T21:32:52");
     EXPECT_EQ("", value.ToString("G"));
     EXPECT_EQ("", value.ToString(nullptr));
     EXPECT_EQ("Unknown Format: x", value.ToString("x"));
-    EXPECT_EQ(value.ToString("s"), value.ToString());
-}
 
-TEST(DateTime, FieldConstructorsClearOnInvalidValues)
-{
-    const CDateTime bad(2001, 2, 30);
-    EXPECT_EQ(CDateTime::dt_yearZero, bad.GetType());
-    EXPECT_EQ(CDateTime::dt_yearZero, CDateTime(2001, 1, 1, 24, 0, 0).GetType());
+    // The field constructors leave a value unset instead of failing.
+    EXPECT_EQ(CDateTime::dt_yearZero, CDateTime(2001, 2, 30).GetType());
     EXPECT_EQ(CDateTime::dt_yearZero, CDateTime(2001, 1, 1, 0, 0, 0, 0, 1000, 0).GetType());
-
-    EXPECT_EQ("2001-02-28", CDateTime(2001, 2, 28).ToString());
-    EXPECT_EQ("2001-02-28T01:02:03", CDateTime(2001, 2, 28, 1, 2, 3).ToString());
     EXPECT_EQ("2001-02-28T01:02:03.004005006", CDateTime(2001, 2, 28, 1, 2, 3, 4, 5, 6).ToString());
 }
 
 TEST(DateTime, WholeValueSetters)
 {
-    struct Case
-    {
-        void (*set)(CDateTime &);
-        CDateTime::DTType type;
-        const char *text;
-    };
-    const Case cases[] = {
+    const struct { void (*set)(CDateTime &); CDateTime::DTType type; const char *text; } cases[] = {
         {[](CDateTime &v) { v.SetDate(10, 3, 4); }, CDateTime::dt_date, "0010-03-04"},
-        {[](CDateTime &v) { v.SetTime(1, 2, 3); }, CDateTime::dt_time, "01:02:03"},
         {[](CDateTime &v) { v.SetTime(1, 2, 3, 0, 500, 0); }, CDateTime::dt_time, "01:02:03.0005"},
         {[](CDateTime &v) { v.SetFracTime(5, 0, 0); }, CDateTime::dt_time, "00:00:00.005"},
         {[](CDateTime &v) { v.SetGYear(-44); }, CDateTime::dt_gYear, "-0044"},
         {[](CDateTime &v) { v.SetGYearMonth(2001, 12); }, CDateTime::dt_gYearMonth, "2001-12"},
-        {[](CDateTime &v) { v.SetGMonth(7); }, CDateTime::dt_gMonth, "--07"},
         {[](CDateTime &v) { v.SetGMonthDay(2, 29); }, CDateTime::dt_gMonthDay, "--02-29"},
         {[](CDateTime &v) { v.SetGDay(1); }, CDateTime::dt_gDay, "---01"},
     };
-    for (const Case &c : cases) {
+    for (const auto &c : cases) {
         SCOPED_TRACE(c.text);
         CDateTime value;
         c.set(value);
@@ -75,16 +55,9 @@ TEST(DateTime, SettersRefuseAnotherTypeAndInvalidFields)
     EXPECT_TRUE(Throws<CVxInvalidStateException>(
         [&] { time.SetDate(2001, 1, 1); }, "Failed to copy CDateTime. Invalid Date Type: date, expected: time."));
 
-    CDateTime value;
-    EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { value.SetGYear(10000); },
+    EXPECT_TRUE(Throws<CVxInvalidValueException>([] { CDateTime().SetGYear(10000); },
                                                  "Invalid Year [10000] (9999 <= year <= -9999 && year != 0)"));
-    EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { CDateTime().SetGYear(0); },
-                                                 "Invalid Year [0] (9999 <= year <= -9999 && year != 0)"));
-    const struct {
-        unsigned char hour, minute, second;
-        unsigned short milli, micro, nano;
-        const char *message;
-    } times[] = {
+    const struct { unsigned char h, m, s; unsigned short milli, micro, nano; const char *message; } times[] = {
         {24, 0, 0, 0, 0, 0, "Invalid Hour [24] (0 <= hour <= 23)"},
         {0, 60, 0, 0, 0, 0, "Invalid Minute [60] (0 <= minute <= 59)"},
         {0, 0, 60, 0, 0, 0, "Invalid Second [60] (0 <= second <= 59)"},
@@ -94,7 +67,7 @@ TEST(DateTime, SettersRefuseAnotherTypeAndInvalidFields)
     };
     for (const auto &t : times)
         EXPECT_TRUE(Throws<CVxInvalidValueException>(
-            [&] { CDateTime().SetTime(t.hour, t.minute, t.second, t.milli, t.micro, t.nano); }, t.message));
+            [&] { CDateTime().SetTime(t.h, t.m, t.s, t.milli, t.micro, t.nano); }, t.message));
     EXPECT_TRUE(Throws<CVxInvalidValueException>([] { CDateTime().SetGMonthDay(2, 30); },
                                                  "Invalid Day [30] (1 <= day <= days in month)"));
     EXPECT_TRUE(Throws<CVxInvalidValueException>([] { CDateTime().SetGDay(0); }, "Invalid Day [0] (1 <= day <= 31)"));
@@ -105,13 +78,8 @@ TEST(DateTime, FieldAccessorsFollowTheType)
     CDateTime year;
     year.SetGYear(2001);
     EXPECT_EQ(2001, year.GetYear());
-    const struct
-    {
-        void (*call)(CDateTime &);
-        const char *message;
-    } refused[] = {
+    const struct { void (*call)(CDateTime &); const char *message; } refused[] = {
         {[](CDateTime &v) { v.GetMonth(); }, "Failed to GetMonth. Invalid Date Type: gYear."},
-        {[](CDateTime &v) { v.SetMonth(1); }, "Failed to GetMonth. Invalid Date Type: gYear."},
         {[](CDateTime &v) { v.GetDay(); }, "Failed to GetDay. Invalid Date Type: gYear."},
         {[](CDateTime &v) { v.GetHour(); }, "Failed to GetHour. Invalid Date Type: gYear."},
         {[](CDateTime &v) { v.GetMinute(); }, "Failed to GetMinute. Invalid Date Type: gYear."},
@@ -128,8 +96,6 @@ TEST(DateTime, FieldAccessorsFollowTheType)
     CDateTime day;
     day.SetGDay(5);
     EXPECT_TRUE(Throws<CVxInvalidStateException>([&] { day.GetYear(); },
-                                                 "Failed to GetYear. Invalid Date Type: gDay."));
-    EXPECT_TRUE(Throws<CVxInvalidStateException>([&] { day.SetYear(1); },
                                                  "Failed to GetYear. Invalid Date Type: gDay."));
 
     // Field setters check no range.
@@ -159,7 +125,6 @@ TEST(DateTime, ZoneSettersAndAccessors)
     EXPECT_EQ("2001-01-01T00:00:00-23:59", value.ToString());
 
     EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { value.SetTimeZone(24, 0); }, "Invalid TimeZone [24:0]"));
-    EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { value.SetTimeZone(-24, 0); }, "Invalid TimeZone [-24:0]"));
     EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { value.SetTimeZone(1, 60); }, "Invalid TimeZone [1:60]"));
     EXPECT_EQ(-23, value.GetZoneHour()); // a refused zone leaves the old one
 }
@@ -185,10 +150,6 @@ TEST(DateTime, ConversionBetweenTypes)
         [&] { target.SetDateTime(date, CDateTime::dt_time); },
         "Attempting to set a CDateTime of type time using an XmlDateTime of type date. The source CDateTime does "
         "not contian enough data to allow the conversion."));
-    CDateTime yearMonth;
-    yearMonth.SetDateTime(date, CDateTime::dt_gYearMonth);
-    EXPECT_NO_THROW(target.SetDateTime(yearMonth, CDateTime::dt_gMonth));
-    EXPECT_ANY_THROW(target.SetDateTime(yearMonth, CDateTime::dt_gDay));
     EXPECT_NO_THROW(target.SetDateTime(date, CDateTime::dt_yearZero));
     EXPECT_EQ(CDateTime::dt_yearZero, target.GetType());
     EXPECT_TRUE(Throws<CVxInvalidValueException>(
@@ -202,5 +163,4 @@ TEST(DateTime, TypeNames)
     for (int type = 0; type <= 8; ++type)
         EXPECT_EQ(names[type], CDateTime(static_cast<CDateTime::DTType>(type)).GetTypeAsString());
     EXPECT_EQ("", CDateTime(static_cast<CDateTime::DTType>(9)).GetTypeAsString());
-    EXPECT_EQ("", CDateTime(static_cast<CDateTime::DTType>(-1)).GetTypeAsString());
 }
