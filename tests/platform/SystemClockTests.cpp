@@ -19,34 +19,20 @@ FILETIME Ticks(std::uint64_t ticks)
     return {static_cast<std::uint32_t>(ticks), static_cast<std::uint32_t>(ticks >> 32)};
 }
 
-// Runs the body with the process's zone set to the given one, then restores it.
-class ScopedZone final
+// Sets the process's zone; null restores the zone the process started with.
+void UseZone(const char *zone)
 {
-public:
-    explicit ScopedZone(const char *zone)
-    {
-        if (const char *old = std::getenv("TZ")) {
-            m_old = old;
-            m_hadOld = true;
-        }
+    const char *const current = std::getenv("TZ");
+    static const bool hadZone = current != nullptr;
+    static const std::string saved = hadZone ? current : "";
+    if (zone)
         setenv("TZ", zone, 1);
-        tzset();
-    }
-    ~ScopedZone()
-    {
-        if (m_hadOld)
-            setenv("TZ", m_old.c_str(), 1);
-        else
-            unsetenv("TZ");
-        tzset();
-    }
-    ScopedZone(const ScopedZone &) = delete;
-    ScopedZone &operator=(const ScopedZone &) = delete;
-
-private:
-    std::string m_old;
-    bool m_hadOld = false;
-};
+    else if (hadZone)
+        setenv("TZ", saved.c_str(), 1);
+    else
+        unsetenv("TZ");
+    tzset();
+}
 
 } // namespace
 
@@ -78,16 +64,13 @@ TEST(SystemClock, ValuesDoNotDependOnTheMachineZone)
                                  "2001-01-01T00:30:00+01:00", "-0044-03-15T12:00:00"};
     long long utcTimes[std::size(texts)];
     int utcDays[std::size(texts)];
-    {
-        ScopedZone zone("UTC");
-        for (std::size_t i = 0; i < std::size(texts); ++i) {
-            const CDateTime value = VxTest::DateValue(texts[i]);
-            utcTimes[i] = value.GetTime();
-            utcDays[i] = value.GetDayOfWeek();
-        }
+    UseZone("UTC");
+    for (std::size_t i = 0; i < std::size(texts); ++i) {
+        utcTimes[i] = VxTest::DateValue(texts[i]).GetTime();
+        utcDays[i] = VxTest::DateValue(texts[i]).GetDayOfWeek();
     }
     for (const char *zoneName : {"America/New_York", "Asia/Kolkata", "Australia/Lord_Howe", "Pacific/Kiritimati"}) {
-        ScopedZone zone(zoneName);
+        UseZone(zoneName);
         for (std::size_t i = 0; i < std::size(texts); ++i) {
             SCOPED_TRACE(std::string(zoneName) + " " + texts[i]);
             const CDateTime value = VxTest::DateValue(texts[i]);
@@ -96,4 +79,5 @@ TEST(SystemClock, ValuesDoNotDependOnTheMachineZone)
             EXPECT_EQ(CDateTime(utcTimes[i]).ToString(), CDateTime(value.GetTime()).ToString());
         }
     }
+    UseZone(nullptr);
 }

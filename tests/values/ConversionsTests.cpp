@@ -10,6 +10,7 @@
 
 #include "BinaryData.h"
 #include "Conversions.h"
+#include "DateTimeSpan.h"
 #include "Decimal.h"
 #include "ExceptionAssert.h"
 #include "TestSupport.h"
@@ -17,6 +18,8 @@
 using VxXmlLib16::CBigInteger;
 using VxXmlLib16::CBinaryData;
 using VxXmlLib16::CConversions;
+using VxXmlLib16::CDateTime;
+using VxXmlLib16::CDateTimeSpan;
 using VxXmlLib16::CDecimal;
 using VxXmlLib16::CVxException;
 using VxXmlLib16::CVxInvalidParamException;
@@ -240,15 +243,50 @@ TEST(ConversionsBinary, HexAndBase64RoundTripWithTheirRules)
                                      "Invalid length in hex string"));
 }
 
-TEST(ConversionsFromString, PartialDatesThroughTheDateType)
+TEST(ConversionsDates, ReadAfterTheWhitespaceRuleAndPrintBack)
+{
+    const struct
+    {
+        CDateTime (*read)(const std::string &, Rule);
+        std::string (*print)(const CDateTime &);
+        const char *text;
+        CDateTime::DTType type;
+        const char *printed;
+    } cases[] = {
+        {&CConversions::datetimeFromString, &CConversions::datetimeToString, "\t2001-10-26T21:32:52.5Z \n",
+         CDateTime::dt_dateTime, "2001-10-26T21:32:52.5Z"},
+        {&CConversions::dateFromString, &CConversions::dateToString, " 2001-10-26+02:00", CDateTime::dt_date,
+         "2001-10-26+02:00"},
+        {&CConversions::timeFromString, &CConversions::timeToString, "12:00:00.000000001 ", CDateTime::dt_time,
+         "12:00:00.000000001"},
+        // The type comes from the form of the text, not from the reader.
+        {&CConversions::dateFromString, &CConversions::dateToString, "2001-10", CDateTime::dt_gYearMonth,
+         "2001-10"},
+        {&CConversions::yearMonthFromString, &CConversions::yearMonthToString, "---05", CDateTime::dt_gDay,
+         "---05"},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.text);
+        const CDateTime value = c.read(c.text, kCollapse);
+        EXPECT_EQ(c.type, value.GetType());
+        EXPECT_EQ(c.printed, c.print(value));
+    }
+}
+
+// Partial dates, failures and durations all come from the value types' own readers.
+TEST(ConversionsDates, PartialDatesFailuresAndDurations)
 {
     EXPECT_EQ(CConversions::dayFromString(" ---31\n", kCollapse), 31);
     EXPECT_EQ(CConversions::monthFromString("--12", kNone), 12);
     EXPECT_EQ(CConversions::yearFromString("\t0098 ", kCollapse), 98);
-    EXPECT_TRUE(Throws<CVxInvalidValueException>([] { CConversions::monthFromString("--13", kNone); },
-                                                 "Invalid Month [13] (1 <= month <= 12)"));
     // Text of another date type holds no such field.
     EXPECT_THROW(CConversions::dayFromString("--12", kNone), CVxException);
+    EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { CConversions::dateFromString(" 2001-10-26", kNone); },
+                                                 "Invalid XSD Date [ 2001-10-26] expected CCYY-MM-DD[Z|[+|-]hh:mm]"));
+    EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { CConversions::datetimeFromString("", kNone); },
+                                                 "Invalid XSD DateTime []."));
+    const CDateTimeSpan span = CConversions::durationFromString(" -P1Y2M3DT4H5M6.123456789S\r\n", kCollapse);
+    EXPECT_EQ("-P1Y2M3DT4H5M6.123456009S", CConversions::durationToString(span));
 }
 
 } // namespace

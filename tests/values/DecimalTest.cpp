@@ -21,14 +21,7 @@ std::string InvalidChar(int position, const std::string &text)
         " [" + text + "].";
 }
 
-// Restores the process-wide digit limit after each test.
-class DecimalTest : public ::testing::Test
-{
-protected:
-    void TearDown() override { CDecimal::SetMaxDecimalPlaces(30); }
-};
-
-TEST_F(DecimalTest, ParseForms)
+TEST(Decimal, ParseForms)
 {
     struct Case { const char *text, *expected; int divider; };
     const Case cases[] = {
@@ -47,7 +40,7 @@ TEST_F(DecimalTest, ParseForms)
     EXPECT_TRUE(CDecimal("-0.5").GetIntegerPart() < CBigInteger(0));
 }
 
-TEST_F(DecimalTest, ParseFailuresNameThePosition)
+TEST(Decimal, ParseFailuresNameThePosition)
 {
     const std::string longDigits(600, '1');
     const std::pair<std::string, int> cases[] = {
@@ -65,7 +58,7 @@ TEST_F(DecimalTest, ParseFailuresNameThePosition)
     EXPECT_EQ(CDecimal("1e999").ToString(), "1" + std::string(999, '0'));
 }
 
-TEST_F(DecimalTest, FromDouble)
+TEST(Decimal, FromDouble)
 {
     EXPECT_EQ(CDecimal(0.1).ToString(), "0.1");
     EXPECT_EQ(CDecimal(-2.5).ToString(), "-2.5");
@@ -74,7 +67,7 @@ TEST_F(DecimalTest, FromDouble)
     EXPECT_TRUE(Throws<CVxInvalidValueException>([] { CDecimal value(-HUGE_VAL); }, InvalidChar(1, "-inf\n")));
 }
 
-TEST_F(DecimalTest, DivisionKeepsThirtyDigits)
+TEST(Decimal, DivisionKeepsThirtyDigits)
 {
     EXPECT_EQ((CDecimal(1) / CDecimal(3)).ToString(), "0.333333333333333333333333333333");
     EXPECT_EQ((CDecimal(2) / CDecimal(3)).ToString(), "0.666666666666666666666666666667");
@@ -86,7 +79,7 @@ TEST_F(DecimalTest, DivisionKeepsThirtyDigits)
 
 // Cutting to the digit limit rounds halves toward zero, and a carry out of all-nine digits
 // stays in the fraction.
-TEST_F(DecimalTest, RoundingAtTheDividerLimit)
+TEST(Decimal, RoundingAtTheDividerLimit)
 {
     const std::string zeros29(29, '0');
     struct Case { int maxPlaces; std::string text, expected; };
@@ -104,10 +97,11 @@ TEST_F(DecimalTest, RoundingAtTheDividerLimit)
     EXPECT_EQ((CDecimal(2) / CDecimal(3)).ToString(), "0.67");
     EXPECT_TRUE(Throws<CVxInvalidParamException>([] { CDecimal::SetMaxDecimalPlaces(0); },
                                                  "The maximum number of decimal places must be at least 1 [0]"));
+    CDecimal::SetMaxDecimalPlaces(30); // the limit is process-wide
 }
 
 // Fractions carry into and borrow from the integer part across signs.
-TEST_F(DecimalTest, ArithmeticCarriesAcrossThePoint)
+TEST(Decimal, ArithmeticCarriesAcrossThePoint)
 {
     EXPECT_EQ((CDecimal("1.75") + CDecimal("0.25")).ToString(), "2");
     EXPECT_EQ((CDecimal("1.25") - CDecimal("0.5")).ToString(), "0.75");
@@ -120,7 +114,7 @@ TEST_F(DecimalTest, ArithmeticCarriesAcrossThePoint)
     EXPECT_EQ((CDecimal("0.5") - CDecimal(1)).ToString(), "-0.5");
 }
 
-TEST_F(DecimalTest, IncrementAndDecrement)
+TEST(Decimal, IncrementAndDecrement)
 {
     CDecimal value("1.5");
     EXPECT_EQ(value++.ToString(), "2.5");
@@ -134,7 +128,7 @@ TEST_F(DecimalTest, IncrementAndDecrement)
 }
 
 // Integer parts decide strictly; only equal integer parts let the fractions decide.
-TEST_F(DecimalTest, Comparisons)
+TEST(Decimal, Comparisons)
 {
     struct Case { const char *a, *b; bool less, lessEqual, greater, greaterEqual, equal; };
     const Case cases[] = {
@@ -156,7 +150,7 @@ TEST_F(DecimalTest, Comparisons)
     }
 }
 
-TEST_F(DecimalTest, ToStringWithPlacesRoundsHalfAwayFromZero)
+TEST(Decimal, ToStringWithPlacesRoundsHalfAwayFromZero)
 {
     struct Case { const char *text; int places; const char *expected; };
     const Case cases[] = {
@@ -168,7 +162,7 @@ TEST_F(DecimalTest, ToStringWithPlacesRoundsHalfAwayFromZero)
         EXPECT_EQ(CDecimal(c.text).ToString(c.places), c.expected) << c.text << " at " << c.places;
 }
 
-TEST_F(DecimalTest, CheckedConversions)
+TEST(Decimal, CheckedConversions)
 {
     EXPECT_EQ(CDecimal("0.5").ToLong(), 0);
     EXPECT_EQ(CDecimal("0.6").ToLong(), 1);
@@ -186,7 +180,7 @@ TEST_F(DecimalTest, CheckedConversions)
     EXPECT_TRUE(Throws<CVxOverFlowException>([] { CDecimal("1.8e308").ToDouble(); }, tooLarge + "Double"));
 }
 
-TEST_F(DecimalTest, ToStringIsLimitedTo1024Characters)
+TEST(Decimal, ToStringIsLimitedTo1024Characters)
 {
     const CDecimal big = CDecimal("1e999") * CDecimal("1e30") + CDecimal("0.5");
     EXPECT_EQ(big.ToString(), "1" + std::string(1023, '0'));

@@ -29,17 +29,10 @@ TEST(LocalTextDefaults, LocalEncodingStartsAsUtf8AndNotAsciiOnly)
     EXPECT_FALSE(IsASCIIOnly());
 }
 
-struct Utf16ToUtf8Case
-{
-    const char *name;
-    std::u16string text;
-    std::string written; // with ample room
-    int counted;         // in count mode
-};
-
 TEST(Utf16ToUtf8, WritesAndCountsAndStopsAtLoneSurrogates)
 {
-    const Utf16ToUtf8Case cases[] = {
+    // Written with ample room, and counted with no output.
+    const struct { const char *name; std::u16string text; std::string written; int counted; } cases[] = {
         {"ascii", u"Ab", "Ab", 2}, {"two byte", u"\u00E9", "\xC3\xA9", 2},
         {"three byte", u"\u20AC", "\xE2\x82\xAC", 3}, {"surrogate pair", u"\U0001F600", "\xF0\x9F\x98\x80", 4},
         {"nul unit", std::u16string(u"a\0b", 3), std::string("a\0b", 3), 3}, {"lone low", u"a\xDC00z", "a", 0},
@@ -76,15 +69,14 @@ std::string Utf8ToLocalWithScratch(const std::string &text, unsigned int size)
 TEST(Utf8ToLocal, Utf8LocalKeepsValidTextAndReplacesIllFormedSequences)
 {
     const Utf8Case cases[] = {
-        {"ascii", "plain name", "plain name"}, {"long ascii", std::string(100, 'x'), std::string(100, 'x')},
+        {"long ascii", std::string(100, 'x'), std::string(100, 'x')}, {"empty", "", ""},
         {"non-ascii", "gr\xC3\xBC\xC3\x9F \xE2\x82\xAC \xF0\x9F\x98\x80", "gr\xC3\xBC\xC3\x9F \xE2\x82\xAC \xF0\x9F\x98\x80"},
         {"ends at nul", std::string("abc\0def", 7), "abc"}, {"truncated two byte", "a\xC3", "a" + kReplacement},
-        {"truncated three byte", "a\xE2\x82z", "a" + kReplacement + "z"},
-        {"truncated four byte", "\xF0\x9F\x98", kReplacement}, {"stray continuation", "\x80z", kReplacement + "z"},
+        {"bad trail byte", "a\xE2\x82z", "a" + kReplacement + "z"}, {"stray continuation", "\x80z", kReplacement + "z"},
         {"overlong", "\xC0\x80", kReplacement + kReplacement},
         {"encoded surrogate", "\xED\xA0\x80", kReplacement + kReplacement + kReplacement},
         {"above U+10FFFF", "\xF4\x90\x80\x80", kReplacement + kReplacement + kReplacement + kReplacement},
-        {"invalid byte then nul", std::string("\xFF\0x", 3), kReplacement}, {"empty", "", ""},
+        {"invalid byte then nul", std::string("\xFF\0x", 3), kReplacement},
     };
     const unsigned int utf8Pages[] = {65001, 0, 3};
     for (unsigned int page : utf8Pages) {
@@ -121,6 +113,14 @@ TEST(Utf8ToLocal, Windows1252LocalTranscodes)
             EXPECT_EQ(Utf8ToLocalWithScratch(c.utf8, size), c.local);
         }
     }
+    // Longer than the converter's internal chunk, with multi-byte input throughout.
+    std::string utf8;
+    std::string local;
+    for (int i = 0; i < 3000; ++i) {
+        utf8 += "a\xC3\xA9";
+        local += "a\xE9";
+    }
+    EXPECT_EQ(Utf8ToLocal(utf8.data(), static_cast<unsigned int>(utf8.size())), local);
 }
 
 TEST(Utf8ToLocal, AsciiOnlyCopiesTheBytesAsTheyStand)
@@ -132,19 +132,6 @@ TEST(Utf8ToLocal, AsciiOnlyCopiesTheBytesAsTheyStand)
         EXPECT_EQ(Utf8ToLocal(bytes.data(), 4), bytes);
         EXPECT_EQ(Utf8ToLocal(bytes.data(), 0), "");
     }
-}
-
-TEST(Utf8ToLocal, LongTextThroughALegacyCodePage)
-{
-    // Longer than the converter's internal chunk, with multi-byte input throughout.
-    LocalTextScope scope(28591);
-    std::string utf8;
-    std::string latin1;
-    for (int i = 0; i < 3000; ++i) {
-        utf8 += "a\xC3\xA9";
-        latin1 += "a\xE9";
-    }
-    EXPECT_EQ(Utf8ToLocal(utf8.data(), static_cast<unsigned int>(utf8.size())), latin1);
 }
 
 TEST(Utf16ToLocal, ConvertsCountedUnitsIntoTheLocalEncoding)
