@@ -47,7 +47,7 @@ TEST(BigIntegerParse, ReadsBackwardsFromTheEnd)
         "The string representing a Decimal, contained an invalid char at position 0 [abc]."));
 }
 
-TEST(BigIntegerConstruct, FromMachineNumbersAndConstants)
+TEST(BigIntegerConstruct, FromMachineNumbers)
 {
     EXPECT_EQ(CBigInteger(std::numeric_limits<std::int32_t>::min()).ToString(), "-2147483648");
     EXPECT_EQ(CBigInteger(std::numeric_limits<long long>::min()).ToString(), "-9223372036854775808");
@@ -60,11 +60,8 @@ TEST(BigIntegerConstruct, FromMachineNumbersAndConstants)
     EXPECT_TRUE(Throws<CVxOverFlowException>([] { CBigInteger(-HUGE_VAL); },
                                              "ERROR: Infinite value out of bound of BigInteger."));
 
-    EXPECT_EQ(CBigInteger::MAX_LONGLONG.ToString(), "9223372036854775807");
-    EXPECT_EQ(CBigInteger::MIN_LONGLONG.ToString(), "-9223372036854775808");
+    // A rounded bound, not the largest double.
     EXPECT_EQ(CBigInteger::MAX_DOUBLE.ToString(), "17" + std::string(307, '0'));
-    EXPECT_EQ(CBigInteger::MIN_DOUBLE.ToString(), "-17" + std::string(307, '0'));
-    EXPECT_EQ(CBigInteger::Pow10(25).ToString(), "1" + std::string(25, '0'));
 }
 
 TEST(BigIntegerArithmetic, AgreesWithMachineIntegers)

@@ -112,10 +112,7 @@ TEST(Decimal, ArithmeticCarriesAcrossThePoint)
     EXPECT_EQ(sum.ToString(), "0");
     EXPECT_EQ(sum.GetFractionDivider(), 1);
     EXPECT_EQ((CDecimal("0.5") - CDecimal(1)).ToString(), "-0.5");
-}
 
-TEST(Decimal, IncrementAndDecrement)
-{
     CDecimal value("1.5");
     EXPECT_EQ(value++.ToString(), "2.5");
     EXPECT_EQ(value.ToString(), "1.5"); // postfix leaves its operand as it was
@@ -160,6 +157,10 @@ TEST(Decimal, ToStringWithPlacesRoundsHalfAwayFromZero)
     };
     for (const Case &c : cases)
         EXPECT_EQ(CDecimal(c.text).ToString(c.places), c.expected) << c.text << " at " << c.places;
+
+    // The text is limited to 1024 characters.
+    const CDecimal big = CDecimal("1e999") * CDecimal("1e30") + CDecimal("0.5");
+    EXPECT_EQ(big.ToString(), "1" + std::string(1023, '0'));
 }
 
 TEST(Decimal, CheckedConversions)
@@ -178,12 +179,6 @@ TEST(Decimal, CheckedConversions)
     EXPECT_TRUE(Throws<CVxOverFlowException>([] { CDecimal("-9223372036854775809").ToLongLong(); },
                                              tooLarge + "LONGLONG"));
     EXPECT_TRUE(Throws<CVxOverFlowException>([] { CDecimal("1.8e308").ToDouble(); }, tooLarge + "Double"));
-}
-
-TEST(Decimal, ToStringIsLimitedTo1024Characters)
-{
-    const CDecimal big = CDecimal("1e999") * CDecimal("1e30") + CDecimal("0.5");
-    EXPECT_EQ(big.ToString(), "1" + std::string(1023, '0'));
 }
 
 } // namespace
