@@ -62,13 +62,14 @@ TEST(BinaryData, AppendForms)
     EXPECT_EQ(expected, Bytes(big));
 }
 
-TEST(BinaryData, AdoptedBufferAndReleaseData)
+TEST(BinaryData, IndexBoundsAdoptedBufferAndReleaseData)
 {
     unsigned char *owned = new unsigned char[3]{'p', 'q', 'r'};
     CBinaryData adopted(owned, 3, true);
     EXPECT_EQ(owned, adopted.GetData());
-    // The position just past the bytes is valid, even for an adopted buffer.
+    // The position just past the bytes is valid, even for an adopted buffer; one beyond is not.
     EXPECT_EQ(0, static_cast<const CBinaryData &>(adopted)[3]);
+    EXPECT_TRUE(Throws<CVxException>([&] { (void)adopted[4]; }, "Index Out of range [4]"));
     adopted[3] = 's';
     adopted.Append('t');
     EXPECT_EQ("pqrt", Bytes(adopted));
@@ -81,19 +82,10 @@ TEST(BinaryData, AdoptedBufferAndReleaseData)
     delete[] released;
 
     CBinaryData empty;
+    EXPECT_TRUE(Throws<CVxException>([&] { (void)empty[0]; }, "Index Out of range [0]"));
     EXPECT_EQ(nullptr, empty.ReleaseData());
     CBinaryData zero(owned, 0, true); // length 0 never makes a block, adopt or not
     EXPECT_EQ(nullptr, zero.GetData());
-}
-
-TEST(BinaryData, IndexBounds)
-{
-    const CBinaryData data("ab");
-    EXPECT_EQ('b', data[1]);
-    EXPECT_EQ(0, data[2]); // the index may equal the length
-    EXPECT_TRUE(Throws<CVxException>([&] { (void)data[3]; }, "Index Out of range [3]"));
-    const CBinaryData empty;
-    EXPECT_TRUE(Throws<CVxException>([&] { (void)empty[0]; }, "Index Out of range [0]"));
 }
 
 TEST(BinaryData, Equality)

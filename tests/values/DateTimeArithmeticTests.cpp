@@ -99,7 +99,6 @@ TEST(DateTimeArithmetic, Comparison)
 
 TEST(DateTimeArithmetic, SecondsSince1970)
 {
-    EXPECT_EQ(0, Value("1970-01-01T00:00:00").GetTime());
     EXPECT_EQ(-86400, Value("1969-12-31").GetTime());
     EXPECT_EQ(951782400, Value("2000-02-29Z").GetTime());
     EXPECT_EQ(978303600, Value("2001-01-01T00:00:00+01:00").GetTime());
@@ -175,5 +174,4 @@ TEST(DateTimeArithmetic, PresentLocalTime)
     const CDateTime now = CDateTime::GetTickCount();
     EXPECT_EQ(CDateTime::dt_dateTime, now.GetType());
     EXPECT_GE(now.GetYear(), 2024);
-    EXPECT_FALSE(now.IsUTC());
 }

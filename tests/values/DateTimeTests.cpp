@@ -175,11 +175,9 @@ struct ParseCase
 const ParseCase parseCases[] = {
     // Every date-shaped type, the type taken from the form.
     {Date, "2001-10-26", CDateTime::dt_date, "2001-10-26"}, {Date, "2001-10", CDateTime::dt_gYearMonth, "2001-10"},
-    {Date, "2001", CDateTime::dt_gYear, "2001"}, {Date, "--05", CDateTime::dt_gMonth, "--05"},
     {Date, "--05--", CDateTime::dt_gMonth, "--05"}, {Date, "---99", CDateTime::dt_gDay, "---99"},
     {Date, "--02-29", CDateTime::dt_gMonthDay, "--02-29"}, {Date, "-0004-02-29", CDateTime::dt_date, "-0004-02-29"},
     // Zones.
-    {Date, "2001-10-26Z", CDateTime::dt_date, "2001-10-26Z"},
     {Date, "2001-10-26-05:30", CDateTime::dt_date, "2001-10-26-05:30"},
     {Date, "2001-10-26+24:00", CDateTime::dt_date, "2001-10-26+00:00"},
     {Date, "2001-10-26-00:30", CDateTime::dt_date, "2001-10-26+00:30"},
@@ -197,7 +195,6 @@ const ParseCase parseCases[] = {
     {Date, "2001-10-26+02:0x", CDateTime::dt_yearZero, "Invalid XSD Time Zone [+02:0x]."},
     {Date, "2001-10-26+25:00", CDateTime::dt_yearZero, "Invalid TimeZone [25:0]"},
     // Times; whatever follows them that is no zone is ignored.
-    {Time, "12:00:00.120", CDateTime::dt_time, "12:00:00.12"},
     {Time, "12:00:00.000000001", CDateTime::dt_time, "12:00:00.000000001"},
     {Time, "12:00:00.25-11:30", CDateTime::dt_time, "12:00:00.25-11:30"},
     {Time, "12:00:00X", CDateTime::dt_time, "12:00:00"},

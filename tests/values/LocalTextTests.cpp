@@ -23,13 +23,7 @@ std::string Utf16ToUtf8String(const std::u16string &text, std::size_t room)
     return out;
 }
 
-TEST(LocalTextDefaults, LocalEncodingStartsAsUtf8AndNotAsciiOnly)
-{
-    EXPECT_EQ(GetLocalCharEncoding(), 65001u);
-    EXPECT_FALSE(IsASCIIOnly());
-}
-
-TEST(Utf16ToUtf8, WritesAndCountsAndStopsAtLoneSurrogates)
+TEST(Utf16ToUtf8, WritesAndCountsAndStopsAtLoneSurrogatesOrTheEnd)
 {
     // Written with ample room, and counted with no output.
     const struct { const char *name; std::u16string text; std::string written; int counted; } cases[] = {
@@ -44,10 +38,7 @@ TEST(Utf16ToUtf8, WritesAndCountsAndStopsAtLoneSurrogates)
         EXPECT_EQ(Utf16ToUtf8String(c.text, 16), c.written);
         EXPECT_EQ(Utf16ToUtf8(c.text.data(), c.text.data() + c.text.size(), nullptr, nullptr), c.counted);
     }
-}
-
-TEST(Utf16ToUtf8, StopsBeforeASequenceThatDoesNotFit)
-{
+    // Writing stops before a sequence that does not fit.
     EXPECT_EQ(Utf16ToUtf8String(u"a\u20ACb", 3), "a");
     EXPECT_EQ(Utf16ToUtf8String(u"a\U0001F600", 4), "a");
     EXPECT_EQ(Utf16ToUtf8String(u"a\U0001F600", 5), "a\xF0\x9F\x98\x80");
@@ -151,8 +142,11 @@ TEST(Utf16ToLocal, ConvertsCountedUnitsIntoTheLocalEncoding)
     }
 }
 
-TEST(LocalText, UnmappedCodePageGivesEmptyResults)
+TEST(LocalText, DefaultsAndUnmappedCodePage)
 {
+    EXPECT_EQ(GetLocalCharEncoding(), 65001u);
+    EXPECT_FALSE(IsASCIIOnly());
+    // A code page with no converter gives empty results.
     LocalTextScope scope(4711);
     EXPECT_EQ(GetLocalCharEncoding(), 4711u);
     EXPECT_EQ(Utf8ToLocal("abc"), "");
