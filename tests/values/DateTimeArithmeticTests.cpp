@@ -9,14 +9,10 @@ using VxXmlLib16::CVxInvalidStateException;
 using VxXmlLib16::CVxInvalidValueException;
 using VxXmlLib16::FILETIME;
 using VxXmlLib16::SYSTEMTIME;
+using VxTest::DateValue;
+using VxTest::SpanValue;
 using VxTest::Throws;
 
-namespace {
-
-CDateTime Value(const char *text) { return VxTest::DateValue(text); }
-CDateTimeSpan Span(const char *text) { return VxTest::SpanValue(text); }
-
-} // namespace
 
 TEST(DateTimeArithmetic, AddingAndSubtractingSpans)
 {
@@ -42,8 +38,8 @@ TEST(DateTimeArithmetic, AddingAndSubtractingSpans)
     };
     for (const auto &c : cases) {
         SCOPED_TRACE(std::string(c.start) + c.op + c.span);
-        const CDateTime start = Value(c.start);
-        const CDateTimeSpan span = Span(c.span);
+        const CDateTime start = DateValue(c.start);
+        const CDateTimeSpan span = SpanValue(c.span);
         CDateTime byAssignment = start;
         if (c.op == '+')
             byAssignment += span;
@@ -57,14 +53,14 @@ TEST(DateTimeArithmetic, AddingAndSubtractingSpans)
 
 TEST(DateTimeArithmetic, NormalisationAndDifference)
 {
-    EXPECT_EQ("2000-12-31T23:00:00+00:00", Value("2001-01-01T00:00:00+01:00").GetNormalized().ToString());
-    EXPECT_EQ("2001-01-01T17:30:00+00:00", Value("2001-01-01T12:00:00-05:30").GetNormalized().ToString());
+    EXPECT_EQ("2000-12-31T23:00:00+00:00", DateValue("2001-01-01T00:00:00+01:00").GetNormalized().ToString());
+    EXPECT_EQ("2001-01-01T17:30:00+00:00", DateValue("2001-01-01T12:00:00-05:30").GetNormalized().ToString());
     // -00:30 keeps its sign in the zero hour, so it is lost: the value moves as for +00:30.
-    EXPECT_EQ("2001-01-01T11:30:00+00:00", Value("2001-01-01T12:00:00-00:30").GetNormalized().ToString());
-    EXPECT_EQ("2001-01-01T12:00:00Z", Value("2001-01-01T12:00:00Z").GetNormalized().ToString());
-    EXPECT_EQ("2000-12-31+00:00", Value("2001-01-01+01:00").GetNormalized().ToString());
+    EXPECT_EQ("2001-01-01T11:30:00+00:00", DateValue("2001-01-01T12:00:00-00:30").GetNormalized().ToString());
+    EXPECT_EQ("2001-01-01T12:00:00Z", DateValue("2001-01-01T12:00:00Z").GetNormalized().ToString());
+    EXPECT_EQ("2000-12-31+00:00", DateValue("2001-01-01+01:00").GetNormalized().ToString());
     // The difference of two values is not computed.
-    EXPECT_EQ("P", (Value("2001-01-01") - Value("1999-05-06")).ToString());
+    EXPECT_EQ("P", (DateValue("2001-01-01") - DateValue("1999-05-06")).ToString());
 }
 
 TEST(DateTimeArithmetic, Comparison)
@@ -84,8 +80,8 @@ TEST(DateTimeArithmetic, Comparison)
     };
     for (const auto &c : cases) {
         SCOPED_TRACE(std::string(c.left) + " " + c.right);
-        const CDateTime left = Value(c.left);
-        const CDateTime right = Value(c.right);
+        const CDateTime left = DateValue(c.left);
+        const CDateTime right = DateValue(c.right);
         const CDateTime::DTCompareResult result = c.result;
         EXPECT_EQ(result, left.CompareTo(right));
         EXPECT_EQ(result == CDateTime::dt_equal, left == right);
@@ -99,14 +95,14 @@ TEST(DateTimeArithmetic, Comparison)
 
 TEST(DateTimeArithmetic, SecondsSince1970)
 {
-    EXPECT_EQ(-86400, Value("1969-12-31").GetTime());
-    EXPECT_EQ(951782400, Value("2000-02-29Z").GetTime());
-    EXPECT_EQ(978303600, Value("2001-01-01T00:00:00+01:00").GetTime());
-    EXPECT_EQ(978307200 + 45296, Value("2001-01-01T12:34:56.999").GetTime()); // fractions dropped
-    EXPECT_EQ(-14817513600, Value("1500-06-15").GetTime());
-    EXPECT_EQ(253402300799, Value("9999-12-31T23:59:59").GetTime());
+    EXPECT_EQ(-86400, DateValue("1969-12-31").GetTime());
+    EXPECT_EQ(951782400, DateValue("2000-02-29Z").GetTime());
+    EXPECT_EQ(978303600, DateValue("2001-01-01T00:00:00+01:00").GetTime());
+    EXPECT_EQ(978307200 + 45296, DateValue("2001-01-01T12:34:56.999").GetTime()); // fractions dropped
+    EXPECT_EQ(-14817513600, DateValue("1500-06-15").GetTime());
+    EXPECT_EQ(253402300799, DateValue("9999-12-31T23:59:59").GetTime());
     EXPECT_TRUE(Throws<CVxInvalidValueException>(
-        [] { Value("2001-01").GetTime(); },
+        [] { DateValue("2001-01").GetTime(); },
         "Failed to GetTime, Date Status must be dateTime or date. Invalid Date Type: gYearMonth."));
 
     for (const long long seconds : {-1LL, 1234567890LL, -14817513600LL, 253402300799LL}) {
@@ -125,28 +121,28 @@ TEST(DateTimeArithmetic, SecondsSince1970)
 
 TEST(DateTimeArithmetic, DayOfWeekAndOfYear)
 {
-    EXPECT_EQ(2, Value("2001-01-01").GetDayOfWeek());          // Monday
-    EXPECT_EQ(1, Value("2001-01-01T00:30:00+01:00").GetDayOfWeek()); // normalised to a Sunday
-    EXPECT_EQ(6, Value("1500-06-15").GetDayOfWeek()); // Friday
-    EXPECT_TRUE(Throws<CVxInvalidStateException>([] { Value("2001").GetDayOfWeek(); },
+    EXPECT_EQ(2, DateValue("2001-01-01").GetDayOfWeek());          // Monday
+    EXPECT_EQ(1, DateValue("2001-01-01T00:30:00+01:00").GetDayOfWeek()); // normalised to a Sunday
+    EXPECT_EQ(6, DateValue("1500-06-15").GetDayOfWeek()); // Friday
+    EXPECT_TRUE(Throws<CVxInvalidStateException>([] { DateValue("2001").GetDayOfWeek(); },
                                                  "Failed to GetDayOfWeek. Invalid Date Type: gYear."));
 
     // The leap day counts only in January and February.
-    EXPECT_EQ(2, Value("2000-01-01").GetDayOfYear());
-    EXPECT_EQ(61, Value("2000-02-29").GetDayOfYear());
-    EXPECT_EQ(60, Value("2000-03-01").GetDayOfYear());
-    EXPECT_EQ(365, Value("2000-12-31").GetDayOfYear());
-    EXPECT_TRUE(Throws<CVxInvalidStateException>([] { Value("---05").GetDayOfYear(); },
+    EXPECT_EQ(2, DateValue("2000-01-01").GetDayOfYear());
+    EXPECT_EQ(61, DateValue("2000-02-29").GetDayOfYear());
+    EXPECT_EQ(60, DateValue("2000-03-01").GetDayOfYear());
+    EXPECT_EQ(365, DateValue("2000-12-31").GetDayOfYear());
+    EXPECT_TRUE(Throws<CVxInvalidStateException>([] { DateValue("---05").GetDayOfYear(); },
                                                  "Failed to GetDayOfYear. Invalid Date Type: gDay."));
 }
 
 TEST(DateTimeArithmetic, SystemTimeInterchange)
 {
-    const SYSTEMTIME time = Value("2001-01-01T10:20:30.456").GetAsSystemTime();
+    const SYSTEMTIME time = DateValue("2001-01-01T10:20:30.456").GetAsSystemTime();
     EXPECT_EQ(1, time.wDayOfWeek); // Monday
     EXPECT_EQ("2001-01-01T10:20:30.456", CDateTime(time).ToString());
     EXPECT_TRUE(Throws<CVxInvalidValueException>(
-        [] { Value("2001-01-01").GetAsSystemTime(); },
+        [] { DateValue("2001-01-01").GetAsSystemTime(); },
         "Failed to GetAsSystemTime, Date Status must be dateTime. Invalid Date Type: date."));
 
     SYSTEMTIME bad = time;
@@ -156,7 +152,7 @@ TEST(DateTimeArithmetic, SystemTimeInterchange)
     EXPECT_EQ(CDateTime::dt_yearZero, CDateTime(bad).GetType());
     CDateTime value;
     EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { value = bad; }, "Invalid Month [255] (1 <= month <= 12)"));
-    CDateTime date = Value("2001-01-01");
+    CDateTime date = DateValue("2001-01-01");
     EXPECT_TRUE(Throws<CVxInvalidStateException>(
         [&] { date = time; }, "Failed to copy CDateTime. Invalid Date Type: dateTime, expected: date."));
 

@@ -6,11 +6,10 @@
 using VxXmlLib16::CDateTime;
 using VxXmlLib16::CDateTimeSpan;
 using VxXmlLib16::CVxInvalidValueException;
+using VxTest::SpanValue;
 using VxTest::Throws;
 
 namespace {
-
-CDateTimeSpan Span(const char *text) { return VxTest::SpanValue(text); }
 
 std::string Expected(const char *text)
 {
@@ -36,10 +35,10 @@ TEST(DateTimeSpan, ParseAndPrint)
     for (const auto &c : cases) {
         SCOPED_TRACE(c.text);
         if (c.printed == nullptr) {
-            EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { Span(c.text); }, Expected(c.text)));
+            EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { SpanValue(c.text); }, Expected(c.text)));
             continue;
         }
-        EXPECT_EQ(c.printed, Span(c.text).ToString());
+        EXPECT_EQ(c.printed, SpanValue(c.text).ToString());
     }
 }
 
@@ -87,8 +86,8 @@ TEST(DateTimeSpan, OrderOverFourReferenceDates)
     };
     for (const auto &c : cases) {
         SCOPED_TRACE(std::string(c.left) + " " + c.right);
-        const CDateTimeSpan left = Span(c.left);
-        const CDateTimeSpan right = Span(c.right);
+        const CDateTimeSpan left = SpanValue(c.left);
+        const CDateTimeSpan right = SpanValue(c.right);
         EXPECT_EQ(c.result, left.CompareTo(right));
         EXPECT_EQ(c.result == CDateTime::dt_equal, left == right);
         EXPECT_EQ(c.result != CDateTime::dt_equal, left != right);

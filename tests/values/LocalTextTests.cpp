@@ -132,7 +132,7 @@ TEST(Utf16ToLocal, ConvertsCountedUnitsIntoTheLocalEncoding)
         {65001, u"caf\u00E9 \U0001F600", "caf\xC3\xA9 \xF0\x9F\x98\x80"},
         {65001, u"a\xDC00" "b", "a" + kReplacement + "b"}, {65001, u"a\xD800", "a" + kReplacement},
         {65001, std::u16string(u"ab\0c", 4), "ab"}, {1252, u"caf\u00E9 \u20AC", "caf\xE9 \x80"},
-        {1252, u"\u4E2D", "?"}, {932, u"\u65E5\u672C", "\x93\xFA\x96\x7B"},
+        {1252, u"\u4E2D", "?"}, {1252, u"x\xDC00y\xD800", "x?y?"}, {932, u"\u65E5\u672C", "\x93\xFA\x96\x7B"},
     };
     for (const auto &c : cases) {
         LocalTextScope scope(c.codePage, true); // the ASCII-only flag does not apply here
@@ -160,6 +160,8 @@ TEST(LocalToUtf16Data, GivesLittleEndianUnitsWithoutTerminatorOrMark)
         {65001, "A\xC3\xA9\xE2\x82\xAC", std::string("A\0\xE9\0\xAC\x20", 6)},
         {65001, "\xF0\x9F\x98\x80", std::string("\x3D\xD8\x00\xDE", 4)}, {65001, "\xC3", "\xFD\xFF"},
         {1252, "A\xE9\x80", std::string("A\0\xE9\0\xAC\x20", 6)}, {1252, "", ""}, {4711, "abc", ""},
+        // A Shift-JIS lead byte without its trail byte, and a byte beyond ASCII.
+        {932, "a\x93", std::string("a\0\xFD\xFF", 4)}, {20127, "a\xE9z", std::string("a\0\xFD\xFFz\0", 6)},
     };
     for (const auto &c : cases) {
         LocalTextScope scope(c.codePage, true); // the ASCII-only flag does not apply here
