@@ -38,14 +38,13 @@ TEST(ConversionsToString, ScalarsAndReals)
     const double nan = std::numeric_limits<double>::quiet_NaN();
     const double inf = std::numeric_limits<double>::infinity();
     const std::pair<std::string, std::string> cases[] = {
-        {CConversions::i1ToString(static_cast<char>(200)), "-56"}, {CConversions::i2ToString(-32768), "-32768"},
+        {CConversions::i1ToString(static_cast<char>(200)), "-56"},
         {CConversions::i4ToString(std::numeric_limits<std::int32_t>::min()), "-2147483648"},
         {CConversions::i8ToString(std::numeric_limits<std::int64_t>::min()), "-9223372036854775808"},
         {CConversions::ui4ToString(4294967295u), "4294967295"},
         {CConversions::ui8ToString(18446744073709551615ull), "18446744073709551615"},
         {CConversions::dayToString(5), "---05"}, {CConversions::monthToString(12), "--12"},
-        {CConversions::yearToString(98), "98"}, {CConversions::booleanToString(false), "false"},
-        {CConversions::charToString('\0'), ""},
+        {CConversions::yearToString(98), "98"}, {CConversions::charToString('\0'), ""},
         // Reals in the form of the C run-time.
         {CConversions::r8ToString(1.0), "1"}, {CConversions::r8ToString(0.1), "0.1"},
         {CConversions::r8ToString(1e20), "1e+020"}, {CConversions::r8ToString(-0.0), "-0"},
@@ -223,9 +222,6 @@ TEST(ConversionsBinary, HexAndBase64RoundTripWithTheirRules)
     EXPECT_EQ(Bytes(CConversions::hexBinaryFromString("\t000aff41\r\n", kCollapse)), bytes);
     EXPECT_EQ(Bytes(CConversions::base64BinaryFromString(" AAr/\r\n QQ== ", kNone)), bytes);
     EXPECT_EQ(CConversions::base64BinaryFromString("  ", kCollapse), CBinaryData());
-    // The byte buffer reports bad hex itself; the rule does not remove inner spaces.
-    EXPECT_TRUE(Throws<CVxException>([] { CConversions::hexBinaryFromString("0A 0B", kCollapse); },
-                                     "Invalid length in hex string"));
 }
 
 TEST(ConversionsDates, ReadAfterTheWhitespaceRuleAndPrintBack)

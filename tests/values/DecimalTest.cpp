@@ -38,6 +38,9 @@ TEST(Decimal, ParseForms)
     EXPECT_EQ(CDecimal("1.50").GetFractionPart().ToString(), "5");
     // The sign of a value between -1 and 0 lives in the negative zero of its integer part.
     EXPECT_TRUE(CDecimal("-0.5").GetIntegerPart() < CBigInteger(0));
+    // A double is printed with 13 fraction digits and read back.
+    EXPECT_EQ(CDecimal(0.1).ToString(), "0.1");
+    EXPECT_EQ(CDecimal(1e300).GetIntegerPart().ToString().size(), 301u);
 }
 
 TEST(Decimal, ParseFailuresNameThePosition)
@@ -45,7 +48,7 @@ TEST(Decimal, ParseFailuresNameThePosition)
     const std::string longDigits(600, '1');
     const std::pair<std::string, int> cases[] = {
         {"1e3 ", 3}, // white space among exponent digits
-        {"1.2.3", 3}, {"abc", 0}, {"12x", 2}, {"1.5 x", 4}, {"1e-3-", 4}, {"nan\n", 0},
+        {"1.2.3", 3}, {"abc", 0}, {"12x", 2}, {"1.5 x", 4}, {"1e-3-", 4},
         {longDigits, 511},                       // integer digits beyond their buffer
         {"0." + longDigits, 513},                // fraction digits beyond theirs
         {"1e" + std::string(40, '0') + "1", 33}, // exponent digits beyond theirs
@@ -56,13 +59,6 @@ TEST(Decimal, ParseFailuresNameThePosition)
                                                      InvalidChar(c.second, c.first)));
     EXPECT_EQ(CDecimal(("1e-" + std::string(20, '0') + "999").c_str()).ToString(), "0");
     EXPECT_EQ(CDecimal("1e999").ToString(), "1" + std::string(999, '0'));
-}
-
-TEST(Decimal, FromDouble)
-{
-    EXPECT_EQ(CDecimal(0.1).ToString(), "0.1");
-    EXPECT_EQ(CDecimal(-2.5).ToString(), "-2.5");
-    EXPECT_EQ(CDecimal(1e300).GetIntegerPart().ToString().size(), 301u);
     EXPECT_TRUE(Throws<CVxInvalidValueException>([] { CDecimal value(std::nan("")); }, InvalidChar(0, "nan\n")));
     EXPECT_TRUE(Throws<CVxInvalidValueException>([] { CDecimal value(-HUGE_VAL); }, InvalidChar(1, "-inf\n")));
 }

@@ -10,8 +10,6 @@ using Rule = CWhitespaceUtils::WhitespaceRule;
 
 namespace {
 
-struct RuleCase { Rule rule; std::string text; std::string expected; };
-
 TEST(WhitespaceUtils, ApplyRuleByRule)
 {
     const std::string mixed = "  a \t\r\n b  ";
@@ -19,7 +17,7 @@ TEST(WhitespaceUtils, ApplyRuleByRule)
     constexpr Rule Preserve = CWhitespaceUtils::WhitespaceRule_Preserve;
     constexpr Rule Replace = CWhitespaceUtils::WhitespaceRule_Replace;
     constexpr Rule Collapse = CWhitespaceUtils::WhitespaceRule_Collapse;
-    const RuleCase cases[] = {
+    const struct { Rule rule; std::string text, expected; } cases[] = {
         {None, mixed, mixed}, {Preserve, "a\rb\nc\r\nd", "a\nb\nc\nd"}, {Preserve, "a\r\r\nb", "a\n\nb"},
         {Preserve, std::string("a\0\rb", 4), std::string("a\0\nb", 4)},
         {Replace, "a\tb\nc\rd", "a b c d"}, {Replace, "a\r\nb", "a b"},
