@@ -130,7 +130,6 @@ TEST(ConversionsFromString, IntegersAcceptAndRefuse)
         {"i4", "99999999999x", kNone, "The value [99999999999x] is to large to fit in a i4"},
         {"i4", "7 ", kNone, "The value [7 ] can not be converted to a i4"},
         {"i4", "   ", kCollapse, "The value [] can not be converted to a i4"},
-        {"i4", "- 5", kNone, "The value [- 5] can not be converted to a i4"},
         {"i8", "-9223372036854775808", kNone, "-9223372036854775808"},
         {"i8", "9223372036854775808", kNone, "The value [9223372036854775808] is to large to fit in a i8"},
         {"i8", "abc", kNone, "The value [abc] can not be converted to a i8"},

@@ -29,7 +29,6 @@ TEST(DateTimeArithmetic, AddingAndSubtractingSpans)
         // months beyond December, or below month 0 going back.
         {"1697-02-01", '+', "P52127277M1401626297D", "20261-54-17"},
         {"2001-01-31T12:00:00+05:00", '-', "P52127377M4111626297D", "-16571-238-20T12:00:00+05:00"},
-        {"2001-10-26T00:00:00", '+', "P1Y2M3DT4H5M6.5S", "2002-12-29T04:05:06.5"},
         {"2001-01-31T23:59:59", '+', "PT1S", "2001-02-01T00:00:00"},
         {"2001-01-01T00:00:00", '-', "PT0.000000001S", "2000-12-31T23:59:59.999999999"},
         // Single-precision carries: beyond 2^24 the remainder leaves the unit.
@@ -119,7 +118,7 @@ TEST(DateTimeArithmetic, SecondsSince1970AndDaysOfTheWeekAndYear)
                                                  "Failed to GetDayOfYear. Invalid Date Type: gDay."));
 }
 
-TEST(DateTimeArithmetic, SystemTimeInterchange)
+TEST(DateTimeArithmetic, SystemTimeInterchangeAndThePresentTime)
 {
     const SYSTEMTIME time = DateValue("2001-01-01T10:20:30.456").GetAsSystemTime();
     EXPECT_EQ(1, time.wDayOfWeek); // Monday
@@ -144,10 +143,7 @@ TEST(DateTimeArithmetic, SystemTimeInterchange)
     EXPECT_EQ(CDateTime::dt_yearZero, CDateTime(beyond63Bits).GetType());
     EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { value = beyond63Bits; },
                                                  "Failed to convert FILETIME to SYSTEMTIME"));
-}
 
-TEST(DateTimeArithmetic, PresentLocalTime)
-{
     const CDateTime now = CDateTime::GetTickCount();
     EXPECT_EQ(CDateTime::dt_dateTime, now.GetType());
     EXPECT_GE(now.GetYear(), 2024);

@@ -79,10 +79,7 @@ TEST(Utf8ToLocal, Utf8LocalKeepsValidTextAndReplacesIllFormedSequences)
             }
         }
     }
-}
-
-TEST(Utf8ToLocal, NulTerminatedFormsReadUpToTheTerminator)
-{
+    // The forms for NUL-terminated text.
     char16_t wide[8];
     char narrow[8];
     EXPECT_EQ(Utf8ToLocal("caf\xC3\xA9"), "caf\xC3\xA9");

@@ -10,7 +10,7 @@ using Rule = CWhitespaceUtils::WhitespaceRule;
 
 namespace {
 
-TEST(WhitespaceUtils, ApplyRuleByRule)
+TEST(WhitespaceUtils, ApplyRuleByRuleAndUnknownRules)
 {
     const std::string mixed = "  a \t\r\n b  ";
     constexpr Rule None = CWhitespaceUtils::WhitespaceRule_None;
@@ -30,6 +30,11 @@ TEST(WhitespaceUtils, ApplyRuleByRule)
         SCOPED_TRACE(testing::Message() << "rule " << c.rule << " [" << c.text << "]");
         EXPECT_EQ(CWhitespaceUtils::ApplyRule(c.rule, c.text), c.expected);
     }
+
+    for (int rule : {-1, 4, 1000}) {
+        EXPECT_TRUE(VxTest::Throws<VxXmlLib16::CVxException>(
+            [rule] { CWhitespaceUtils::ApplyRule(static_cast<Rule>(rule), "x"); }, "Unknown WhitespaceRule"));
+    }
 }
 
 TEST(WhitespaceUtils, PreserveOfCharactersAlwaysCopiesTheGivenLength)
@@ -38,14 +43,6 @@ TEST(WhitespaceUtils, PreserveOfCharactersAlwaysCopiesTheGivenLength)
     EXPECT_EQ(CWhitespaceUtils::Preserve("a\r\n", 2), "a\n");
     EXPECT_EQ(CWhitespaceUtils::Preserve(nullptr, 3), "");
     EXPECT_EQ(CWhitespaceUtils::Preserve("abc", -1), "");
-}
-
-TEST(WhitespaceUtils, UnknownRuleIsAProgrammingError)
-{
-    for (int rule : {-1, 4, 1000}) {
-        EXPECT_TRUE(VxTest::Throws<VxXmlLib16::CVxException>(
-            [rule] { CWhitespaceUtils::ApplyRule(static_cast<Rule>(rule), "x"); }, "Unknown WhitespaceRule"));
-    }
 }
 
 } // namespace
