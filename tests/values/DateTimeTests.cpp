@@ -98,9 +98,7 @@ TEST(DateTime, FieldAccessorsFollowTheType)
                                                  "Failed to GetYear. Invalid Date Type: gDay."));
 
     // Field setters check no range.
-    CDateTime time("2001-01-01T12:00:01");
-    time.SetMilliSecond(500);
-    time.SetMicroSecond(250);
+    CDateTime time("2001-01-01T12:00:01.50025");
     EXPECT_DOUBLE_EQ(1.50025, time.GetRealSecond());
     time.SetMonth(14);
     EXPECT_EQ("2001-14-01T12:00:01.50025", time.ToString());
@@ -158,13 +156,8 @@ const Reader Date = &CDateTime::ParseXSDDate;
 const Reader Time = &CDateTime::ParseXSDTime;
 const Reader DateTime = &CDateTime::ParseXSDDateTime;
 
-struct ParseCase
-{
-    Reader reader;
-    const char *text;
-    CDateTime::DTType type; // dt_yearZero: the text fails
-    const char *result;     // the printed value, or the failure message
-};
+// The printed value, or with the type dt_yearZero the failure message.
+struct ParseCase { Reader reader; const char *text; CDateTime::DTType type; const char *result; };
 
 const ParseCase parseCases[] = {
     // Every date-shaped type, the type taken from the form.
