@@ -9,15 +9,6 @@ using VxXmlLib16::CVxInvalidValueException;
 using VxTest::SpanValue;
 using VxTest::Throws;
 
-namespace {
-
-std::string Expected(const char *text)
-{
-    return std::string("Invalid XSD Duration [") + text + "] expected [-]P[nY][nM][nD][T[nH][nM][nS.ff]]";
-}
-
-} // namespace
-
 TEST(DateTimeSpan, ParseAndPrint)
 {
     // A null print: the text fails with the general message.
@@ -35,7 +26,9 @@ TEST(DateTimeSpan, ParseAndPrint)
     for (const auto &c : cases) {
         SCOPED_TRACE(c.text);
         if (c.printed == nullptr) {
-            EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { SpanValue(c.text); }, Expected(c.text)));
+            EXPECT_TRUE(Throws<CVxInvalidValueException>(
+                [&] { SpanValue(c.text); },
+                std::string("Invalid XSD Duration [") + c.text + "] expected [-]P[nY][nM][nD][T[nH][nM][nS.ff]]"));
             continue;
         }
         EXPECT_EQ(c.printed, SpanValue(c.text).ToString());
