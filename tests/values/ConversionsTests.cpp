@@ -33,7 +33,7 @@ namespace {
 constexpr Rule kNone = VxXmlLib16::CWhitespaceUtils::WhitespaceRule_None;
 constexpr Rule kCollapse = VxXmlLib16::CWhitespaceUtils::WhitespaceRule_Collapse;
 
-TEST(ConversionsToString, ScalarsAndReals)
+TEST(ConversionsToString, ScalarsRealsAndFormatOverrides)
 {
     const double nan = std::numeric_limits<double>::quiet_NaN();
     const double inf = std::numeric_limits<double>::infinity();
@@ -61,10 +61,8 @@ TEST(ConversionsToString, ScalarsAndReals)
     };
     for (const auto &c : cases)
         EXPECT_EQ(c.first, c.second);
-}
 
-TEST(ConversionsToString, OverrideThatIsNotARealFormatIsRefused)
-{
+    // An override that is not a printf format of one real is refused.
     for (const char *format : {"%s", "%n", "%f %f", "%*f", "%Lf", "%.2"}) {
         const std::string message =
             std::string("The format override [") + format + "] is not a printf format of one floating-point value";
