@@ -61,7 +61,8 @@ TEST(Utf8ToLocal, Utf8LocalKeepsValidTextAndReplacesIllFormedSequences)
 {
     const Utf8Case cases[] = {
         {"long ascii", std::string(100, 'x'), std::string(100, 'x')}, {"empty", "", ""},
-        {"non-ascii", "gr\xC3\xBC\xC3\x9F \xE2\x82\xAC \xF0\x9F\x98\x80", "gr\xC3\xBC\xC3\x9F \xE2\x82\xAC \xF0\x9F\x98\x80"},
+        {"non-ascii", "gr\xC3\xBC\xC3\x9F \xE2\x82\xAC \xF0\x9F\x98\x80",
+         "gr\xC3\xBC\xC3\x9F \xE2\x82\xAC \xF0\x9F\x98\x80"},
         {"ends at nul", std::string("abc\0def", 7), "abc"}, {"truncated two byte", "a\xC3", "a" + kReplacement},
         {"bad trail byte", "a\xE2\x82z", "a" + kReplacement + "z"}, {"stray continuation", "\x80z", kReplacement + "z"},
         {"overlong", "\xC0\x80", kReplacement + kReplacement},
@@ -171,16 +172,7 @@ TEST(LocalToUtf16Data, GivesLittleEndianUnitsWithoutTerminatorOrMark)
     }
 }
 
-TEST(Utf16ToUtf8Data, EncodesUpToTheTerminator)
-{
-    EXPECT_EQ(Bytes(Utf16ToUtf8Data(u"plain")), "plain");
-    EXPECT_EQ(Bytes(Utf16ToUtf8Data(u"\u00E9\U0001F600")), "\xC3\xA9\xF0\x9F\x98\x80");
-    // The sizing call reports 0 for a lone surrogate, which leaves nothing to write.
-    EXPECT_EQ(Utf16ToUtf8Data(u"ab\u00E9\xDC00"), CBinaryData());
-    EXPECT_EQ(Utf16ToUtf8Data(nullptr), CBinaryData());
-}
-
-TEST(LocalToUtf8Data, TranscodesOrPassesThroughWithAsciiOnly)
+TEST(Utf8Data, FromLocalTextAndFromUtf16)
 {
     struct Case { unsigned int codePage; bool asciiOnly; const char *local; std::string utf8; };
     const Case cases[] = {
@@ -193,6 +185,13 @@ TEST(LocalToUtf8Data, TranscodesOrPassesThroughWithAsciiOnly)
         SCOPED_TRACE(testing::Message() << c.codePage << " " << c.asciiOnly << " " << c.local);
         EXPECT_EQ(Bytes(LocalToUtf8Data(c.local)), c.utf8);
     }
+
+    // From UTF-16, up to the terminator.
+    EXPECT_EQ(Bytes(Utf16ToUtf8Data(u"plain")), "plain");
+    EXPECT_EQ(Bytes(Utf16ToUtf8Data(u"\u00E9\U0001F600")), "\xC3\xA9\xF0\x9F\x98\x80");
+    // The sizing call reports 0 for a lone surrogate, which leaves nothing to write.
+    EXPECT_EQ(Utf16ToUtf8Data(u"ab\u00E9\xDC00"), CBinaryData());
+    EXPECT_EQ(Utf16ToUtf8Data(nullptr), CBinaryData());
 }
 
 TEST(LocalText, RoundTripsThroughEveryForm)
@@ -209,7 +208,8 @@ TEST(LocalText, RoundTripsThroughEveryForm)
         ASSERT_EQ(utf16.size(), unicode.size() * 2);
         std::u16string units;
         for (std::size_t i = 0; i < utf16.size(); i += 2)
-            units += static_cast<char16_t>(static_cast<unsigned char>(utf16[i]) | static_cast<unsigned char>(utf16[i + 1]) << 8);
+            units += static_cast<char16_t>(static_cast<unsigned char>(utf16[i]) |
+                                           static_cast<unsigned char>(utf16[i + 1]) << 8);
         EXPECT_EQ(units, unicode);
     }
 }
