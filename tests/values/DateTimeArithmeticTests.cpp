@@ -13,7 +13,6 @@ using VxTest::DateValue;
 using VxTest::SpanValue;
 using VxTest::Throws;
 
-
 TEST(DateTimeArithmetic, AddingAndSubtractingSpans)
 {
     const struct { const char *start; char op; const char *span; const char *result; } cases[] = {
@@ -136,8 +135,7 @@ TEST(DateTimeArithmetic, SystemTimeInterchangeAndThePresentTime)
     EXPECT_TRUE(Throws<CVxInvalidStateException>(
         [&] { date = time; }, "Failed to copy CDateTime. Invalid Date Type: dateTime, expected: date."));
 
-    const std::uint64_t ticks1970 = 116444736000000000ULL;
-    const FILETIME epoch{static_cast<std::uint32_t>(ticks1970), static_cast<std::uint32_t>(ticks1970 >> 32)};
+    const FILETIME epoch{0xD53E8000u, 0x019DB1DEu}; // 116444736000000000 ticks since 1601
     EXPECT_EQ("1970-01-01T00:00:00", CDateTime(epoch).ToString());
     const FILETIME beyond63Bits{0, 0x80000000u};
     EXPECT_EQ(CDateTime::dt_yearZero, CDateTime(beyond63Bits).GetType());
