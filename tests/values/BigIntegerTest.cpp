@@ -20,17 +20,14 @@ bool IsNegativeZero(const CBigInteger &value) { return value == CBigInteger(0) &
 TEST(BigIntegerParse, ReadsBackwardsFromTheEnd)
 {
     const std::pair<const char *, const char *> cases[] = {
-        {"12345678901234567890123", "12345678901234567890123"}, {"-42", "-42"}, {"  -7  ", "-7"}, {"+5", "5"},
-        {"12-34", "34"}, {"1 2", "2"}, {"007", "7"}, {"", "0"}, {"   ", "0"}, {"1e3", "1000"},
+        {"12345678901234567890123", "12345678901234567890123"}, {"  -7  ", "-7"}, {"+5", "5"},
+        {"12-34", "34"}, {"1 2", "2"}, {"", "0"}, {"1e3", "1000"},
         {"\t-5", "5"}, // only blanks are trimmed, so the minus is not first
         {"1.5", "1"},   // the decimal route rounds halves toward zero
         {"1.6", "2"}, {"-1.6", "-2"}};
     for (const auto &c : cases)
         EXPECT_EQ(CBigInteger(c.first).ToString(), c.second) << '"' << c.first << '"';
-}
 
-TEST(BigIntegerParse, OddTextsKeepTheirShape)
-{
     const CBigInteger minusZero("-0");
     EXPECT_EQ(minusZero.ToString(), "0");
     EXPECT_TRUE(IsNegativeZero(minusZero));
@@ -39,8 +36,6 @@ TEST(BigIntegerParse, OddTextsKeepTheirShape)
     const CBigInteger trailingSign("5-");
     EXPECT_EQ(trailingSign.ToString(), "0");
     EXPECT_NE(trailingSign, CBigInteger(0));
-    EXPECT_EQ(CBigInteger("-").ToString(), "0");
-    EXPECT_TRUE(CBigInteger("-") < CBigInteger(0));
     EXPECT_EQ(static_cast<int>(trailingSign), 0);
     EXPECT_EQ((trailingSign + CBigInteger(3)).ToString(), "3");
     EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { (void)(CBigInteger(3) / trailingSign); },
@@ -54,10 +49,8 @@ TEST(BigIntegerParse, OddTextsKeepTheirShape)
 TEST(BigIntegerConstruct, FromMachineNumbers)
 {
     EXPECT_EQ(CBigInteger(std::numeric_limits<std::int32_t>::min()).ToString(), "-2147483648");
-    EXPECT_EQ(CBigInteger(std::numeric_limits<std::uint32_t>::max()).ToString(), "4294967295");
     EXPECT_EQ(CBigInteger(std::numeric_limits<long long>::min()).ToString(), "-9223372036854775808");
     EXPECT_EQ(CBigInteger(std::numeric_limits<unsigned long long>::max()).ToString(), "18446744073709551615");
-    EXPECT_EQ(CBigInteger(std::int64_t{-12}).ToString(), "-12");
 
     const std::pair<double, const char *> reals[] = {{2.5, "2"}, {-2.5, "-2"}, {2.6, "3"}, {0.4, "0"},
                                                      {1e20, "100000000000000000000"}, {std::nan(""), "0"}};
@@ -65,18 +58,9 @@ TEST(BigIntegerConstruct, FromMachineNumbers)
         EXPECT_EQ(CBigInteger(c.first).ToString(), c.second) << c.first;
     EXPECT_TRUE(Throws<CVxOverFlowException>([] { CBigInteger(-HUGE_VAL); },
                                              "ERROR: Infinite value out of bound of BigInteger."));
-}
 
-TEST(BigIntegerConstruct, Constants)
-{
-    EXPECT_EQ(CBigInteger::MAX_LONG.ToString(), "2147483647");
-    EXPECT_EQ(CBigInteger::MIN_LONG.ToString(), "-2147483648");
-    EXPECT_EQ(CBigInteger::MAX_LONGLONG.ToString(), "9223372036854775807");
-    EXPECT_EQ(CBigInteger::MIN_LONGLONG.ToString(), "-9223372036854775808");
+    // A rounded bound, not the largest double.
     EXPECT_EQ(CBigInteger::MAX_DOUBLE.ToString(), "17" + std::string(307, '0'));
-    EXPECT_EQ(CBigInteger::MIN_DOUBLE.ToString(), "-17" + std::string(307, '0'));
-    EXPECT_EQ(CBigInteger::Pow10(0).ToString(), "1");
-    EXPECT_EQ(CBigInteger::Pow10(25).ToString(), "1" + std::string(25, '0'));
 }
 
 TEST(BigIntegerArithmetic, AgreesWithMachineIntegers)
@@ -150,50 +134,31 @@ TEST(BigIntegerArithmetic, DivisionAndRemainderSigns)
         Throws<CVxInvalidValueException>([] { (void)(CBigInteger(0) % CBigInteger("-0")); }, overflowRemainder));
 }
 
-TEST(BigIntegerCompare, NegativeZeroIsEqualButSmaller)
+TEST(BigIntegerCompare, NegativeZeroIsEqualButSmallerAndUnaryMinusMutates)
 {
     const CBigInteger zero(0);
     const CBigInteger minusZero("-0");
     EXPECT_TRUE(minusZero == zero);
     EXPECT_TRUE(minusZero < zero);
-    EXPECT_TRUE(zero > minusZero);
-    EXPECT_TRUE(minusZero <= zero);
     EXPECT_FALSE(zero <= minusZero);
     EXPECT_TRUE(CBigInteger(-10) < CBigInteger(-9));
     EXPECT_TRUE(CBigInteger(-10) < CBigInteger(9));
-    EXPECT_TRUE(CBigInteger(100) > CBigInteger(99));
-    EXPECT_TRUE(CBigInteger(5) >= CBigInteger(5));
-    EXPECT_TRUE(CBigInteger(5) != CBigInteger(-5));
-}
 
-TEST(BigIntegerSign, UnaryMinusMutates)
-{
+    // Unary minus changes its operand; GetNegative does not.
     CBigInteger x(5);
-    const CBigInteger y = -x;
-    EXPECT_EQ(x.ToString(), "-5");
-    EXPECT_EQ(y.ToString(), "-5");
+    EXPECT_EQ((-x).ToString(), "-5");
     EXPECT_EQ(x.GetNegative().ToString(), "5");
-    EXPECT_EQ(x.GetAbs().ToString(), "5");
-    EXPECT_EQ(x.ToString(), "-5");
-    x.Abs();
-    EXPECT_EQ(x.ToString(), "5");
-    x.Negate();
     EXPECT_EQ(x.ToString(), "-5");
 }
 
-TEST(BigIntegerNarrowing, IntIsCheckedAndExact)
+// int is exact over its range; long long wraps its 32-bit multiplier.
+TEST(BigIntegerNarrowing, IntIsExactAndLongLongWraps)
 {
     EXPECT_EQ(static_cast<int>(CBigInteger::MIN_LONG), std::numeric_limits<int>::min());
-    EXPECT_EQ(static_cast<int>(CBigInteger::MAX_LONG), std::numeric_limits<int>::max());
-    EXPECT_EQ(static_cast<int>(CBigInteger("-0")), 0);
     EXPECT_EQ(static_cast<int>(CBigInteger(-123456)), -123456);
     for (const char *text : {"2147483648", "-2147483649"})
         EXPECT_TRUE(Throws<CVxInvalidValueException>([text] { (void)static_cast<int>(CBigInteger(text)); },
                                                      "ERROR: Value out of bound of int."));
-}
-
-TEST(BigIntegerNarrowing, LongLongWrapsItsMultiplier)
-{
     const std::pair<const char *, long long> cases[] = {
         {"4294967295", 4294967295LL}, {"-4294967295", -4294967295LL},        {"5000000000", 705032704LL},
         {"12345678901", 3755744309LL}, {"9223372036854775807", 25769803775LL}, {"-5000000000", -705032704LL}};
@@ -206,7 +171,6 @@ TEST(BigIntegerNarrowing, LongLongWrapsItsMultiplier)
 
 TEST(BigIntegerSquareRoot, FloorOfTheRoot)
 {
-    EXPECT_EQ(CBigInteger(1).SquareRoot().ToString(), "1");
     EXPECT_EQ(CBigInteger(99).SquareRoot().ToString(), "9");
     EXPECT_EQ(CBigInteger(100).SquareRoot().ToString(), "10");
     const CBigInteger root("31622776601683793319988935");

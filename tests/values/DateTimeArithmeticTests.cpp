@@ -9,14 +9,9 @@ using VxXmlLib16::CVxInvalidStateException;
 using VxXmlLib16::CVxInvalidValueException;
 using VxXmlLib16::FILETIME;
 using VxXmlLib16::SYSTEMTIME;
+using VxTest::DateValue;
+using VxTest::SpanValue;
 using VxTest::Throws;
-
-namespace {
-
-CDateTime Value(const char *text) { return VxTest::DateValue(text); }
-CDateTimeSpan Span(const char *text) { return VxTest::SpanValue(text); }
-
-} // namespace
 
 TEST(DateTimeArithmetic, AddingAndSubtractingSpans)
 {
@@ -24,19 +19,15 @@ TEST(DateTimeArithmetic, AddingAndSubtractingSpans)
         {"2001-03-01", '-', "P1D", "2001-02-28"}, {"2000-03-01", '-', "P1D", "2000-02-29"},
         {"2001-12-31", '+', "P1D", "2002-01-01"}, {"2001-01-01", '-', "P1D", "2000-12-31"},
         {"2001-01-31", '+', "P1M", "2001-02-31"}, // the day is not clamped
-        {"2001-01-31", '-', "P2M", "2000-11-31"},
-        {"2001-01-01", '-', "P1000D", "1998-04-07"},
         {"2001-03-31", '-', "-P1M", "2001-02-31"}, // a negative span still moves back
         {"-0001-12-31", '+', "P1D", "0000-01-01"},  // year 0 is reached without complaint
         // Long spans, checked against the month-by-month walk; the 16-bit year wraps.
-        {"2001-01-01", '+', "P146097D", "2401-01-01"}, {"2001-01-01", '+', "P1Y146096D", "2401-12-31"},
+        {"2001-01-01", '+', "P146097D", "2401-01-01"},
         {"2001-01-01", '+', "P4294967295D", "30278-04-16"}, {"2001-01-01", '-', "P4294967295D", "-26277-09-19"},
-        {"9999-12-31", '+', "P30000000D", "26601-03-18"},
         // The month step rounds to a month outside the calendar; the days then run through
         // months beyond December, or below month 0 going back.
         {"1697-02-01", '+', "P52127277M1401626297D", "20261-54-17"},
         {"2001-01-31T12:00:00+05:00", '-', "P52127377M4111626297D", "-16571-238-20T12:00:00+05:00"},
-        {"2001-10-26T00:00:00", '+', "P1Y2M3DT4H5M6.5S", "2002-12-29T04:05:06.5"},
         {"2001-01-31T23:59:59", '+', "PT1S", "2001-02-01T00:00:00"},
         {"2001-01-01T00:00:00", '-', "PT0.000000001S", "2000-12-31T23:59:59.999999999"},
         // Single-precision carries: beyond 2^24 the remainder leaves the unit.
@@ -45,8 +36,8 @@ TEST(DateTimeArithmetic, AddingAndSubtractingSpans)
     };
     for (const auto &c : cases) {
         SCOPED_TRACE(std::string(c.start) + c.op + c.span);
-        const CDateTime start = Value(c.start);
-        const CDateTimeSpan span = Span(c.span);
+        const CDateTime start = DateValue(c.start);
+        const CDateTimeSpan span = SpanValue(c.span);
         CDateTime byAssignment = start;
         if (c.op == '+')
             byAssignment += span;
@@ -58,20 +49,16 @@ TEST(DateTimeArithmetic, AddingAndSubtractingSpans)
     }
 }
 
-TEST(DateTimeArithmetic, DifferenceOfTwoValuesIsAZeroSpan)
+TEST(DateTimeArithmetic, NormalisationAndDifference)
 {
-    EXPECT_EQ("P", (Value("2001-01-01") - Value("1999-05-06")).ToString());
-}
-
-TEST(DateTimeArithmetic, Normalisation)
-{
-    EXPECT_EQ("2000-12-31T23:00:00+00:00", Value("2001-01-01T00:00:00+01:00").GetNormalized().ToString());
-    EXPECT_EQ("2001-01-01T17:30:00+00:00", Value("2001-01-01T12:00:00-05:30").GetNormalized().ToString());
+    EXPECT_EQ("2000-12-31T23:00:00+00:00", DateValue("2001-01-01T00:00:00+01:00").GetNormalized().ToString());
+    EXPECT_EQ("2001-01-01T17:30:00+00:00", DateValue("2001-01-01T12:00:00-05:30").GetNormalized().ToString());
     // -00:30 keeps its sign in the zero hour, so it is lost: the value moves as for +00:30.
-    EXPECT_EQ("2001-01-01T11:30:00+00:00", Value("2001-01-01T12:00:00-00:30").GetNormalized().ToString());
-    EXPECT_EQ("2001-01-01T12:00:00Z", Value("2001-01-01T12:00:00Z").GetNormalized().ToString());
-    EXPECT_EQ("2001-01-01T12:00:00", Value("2001-01-01T12:00:00").GetNormalized().ToString());
-    EXPECT_EQ("2000-12-31+00:00", Value("2001-01-01+01:00").GetNormalized().ToString());
+    EXPECT_EQ("2001-01-01T11:30:00+00:00", DateValue("2001-01-01T12:00:00-00:30").GetNormalized().ToString());
+    EXPECT_EQ("2001-01-01T12:00:00Z", DateValue("2001-01-01T12:00:00Z").GetNormalized().ToString());
+    EXPECT_EQ("2000-12-31+00:00", DateValue("2001-01-01+01:00").GetNormalized().ToString());
+    // The difference of two values is not computed.
+    EXPECT_EQ("P", (DateValue("2001-01-01") - DateValue("1999-05-06")).ToString());
 }
 
 TEST(DateTimeArithmetic, Comparison)
@@ -87,15 +74,12 @@ TEST(DateTimeArithmetic, Comparison)
         {"2001-01-01", "2001-01-01T05:00:00", CDateTime::dt_indeterminate},
         {"2001-01-01", "2001-01-01T00:00:00", CDateTime::dt_less}, {"--05", "--05-01", CDateTime::dt_indeterminate},
         {"--05", "--06", CDateTime::dt_less}, {"-0001", "0001", CDateTime::dt_indeterminate},
-        {"-0002", "-0001", CDateTime::dt_less},
         {"2001-01-01T12:00:00.5", "2001-01-01T12:00:00.25", CDateTime::dt_greater},
-        {"2001-01-01T12:00:00.5", "2001-01-01T12:00:00.500", CDateTime::dt_equal},
-        {"2002-01-01", "2001-12-31", CDateTime::dt_greater}, {"2001-10", "2001-10-05", CDateTime::dt_indeterminate},
     };
     for (const auto &c : cases) {
         SCOPED_TRACE(std::string(c.left) + " " + c.right);
-        const CDateTime left = Value(c.left);
-        const CDateTime right = Value(c.right);
+        const CDateTime left = DateValue(c.left);
+        const CDateTime right = DateValue(c.right);
         const CDateTime::DTCompareResult result = c.result;
         EXPECT_EQ(result, left.CompareTo(right));
         EXPECT_EQ(result == CDateTime::dt_equal, left == right);
@@ -107,25 +91,13 @@ TEST(DateTimeArithmetic, Comparison)
     }
 }
 
-TEST(DateTimeArithmetic, SecondsSince1970)
+// The values themselves are checked in every zone with the system clock.
+TEST(DateTimeArithmetic, SecondsSince1970AndDaysOfTheWeekAndYear)
 {
-    EXPECT_EQ(0, Value("1970-01-01T00:00:00").GetTime());
-    EXPECT_EQ(-86400, Value("1969-12-31").GetTime());
-    EXPECT_EQ(951782400, Value("2000-02-29").GetTime());
-    EXPECT_EQ(951782400, Value("2000-02-29Z").GetTime());
-    EXPECT_EQ(978303600, Value("2001-01-01T00:00:00+01:00").GetTime());
-    EXPECT_EQ(978307200 + 45296, Value("2001-01-01T12:34:56.999").GetTime()); // fractions dropped
-    EXPECT_EQ(-14817513600, Value("1500-06-15").GetTime());
-    EXPECT_EQ(253402300799, Value("9999-12-31T23:59:59").GetTime());
     EXPECT_TRUE(Throws<CVxInvalidValueException>(
-        [] { Value("2001-01").GetTime(); },
+        [] { DateValue("2001-01").GetTime(); },
         "Failed to GetTime, Date Status must be dateTime or date. Invalid Date Type: gYearMonth."));
 
-    for (const long long seconds : {0LL, -1LL, 978307200LL, 1234567890LL, -14817513600LL, 253402300799LL}) {
-        const CDateTime fromSeconds(seconds);
-        EXPECT_EQ(CDateTime::dt_dateTime, fromSeconds.GetType());
-        EXPECT_EQ(seconds, fromSeconds.GetTime());
-    }
     EXPECT_EQ("1969-12-31T23:59:59", CDateTime(-1LL).ToString());
     EXPECT_EQ(CDateTime::dt_yearZero, CDateTime(253402300800LL).GetType());
     CDateTime value;
@@ -133,63 +105,44 @@ TEST(DateTimeArithmetic, SecondsSince1970)
     EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { value = 10000000000000LL; },
                                                  "Invalid Year [32767] (9999 <= year <= -9999 && year != 0)"));
     EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { value = 1LL << 62; }, "Invalid Time [4611686018427387904]"));
-}
-
-TEST(DateTimeArithmetic, DayOfWeekAndOfYear)
-{
-    EXPECT_EQ(2, Value("2001-01-01").GetDayOfWeek());          // Monday
-    EXPECT_EQ(3, Value("2000-02-29T23:59:59").GetDayOfWeek()); // Tuesday
-    EXPECT_EQ(1, Value("2001-01-01T00:30:00+01:00").GetDayOfWeek()); // normalised to a Sunday
-    EXPECT_EQ(6, Value("1500-06-15").GetDayOfWeek()); // Friday
-    EXPECT_TRUE(Throws<CVxInvalidStateException>([] { Value("2001").GetDayOfWeek(); },
+    EXPECT_TRUE(Throws<CVxInvalidStateException>([] { DateValue("2001").GetDayOfWeek(); },
                                                  "Failed to GetDayOfWeek. Invalid Date Type: gYear."));
 
     // The leap day counts only in January and February.
-    EXPECT_EQ(2, Value("2000-01-01").GetDayOfYear());
-    EXPECT_EQ(61, Value("2000-02-29").GetDayOfYear());
-    EXPECT_EQ(60, Value("2000-03-01").GetDayOfYear());
-    EXPECT_EQ(365, Value("2000-12-31").GetDayOfYear());
-    EXPECT_EQ(1, Value("2001-01-01T10:00:00").GetDayOfYear());
-    EXPECT_EQ(365, Value("2001-12-31").GetDayOfYear());
-    EXPECT_TRUE(Throws<CVxInvalidStateException>([] { Value("---05").GetDayOfYear(); },
+    EXPECT_EQ(2, DateValue("2000-01-01").GetDayOfYear());
+    EXPECT_EQ(61, DateValue("2000-02-29").GetDayOfYear());
+    EXPECT_EQ(60, DateValue("2000-03-01").GetDayOfYear());
+    EXPECT_EQ(365, DateValue("2000-12-31").GetDayOfYear());
+    EXPECT_TRUE(Throws<CVxInvalidStateException>([] { DateValue("---05").GetDayOfYear(); },
                                                  "Failed to GetDayOfYear. Invalid Date Type: gDay."));
 }
 
-TEST(DateTimeArithmetic, SystemTimeInterchange)
+TEST(DateTimeArithmetic, SystemTimeInterchangeAndThePresentTime)
 {
-    const SYSTEMTIME time = Value("2001-01-01T10:20:30.456").GetAsSystemTime();
+    const SYSTEMTIME time = DateValue("2001-01-01T10:20:30.456").GetAsSystemTime();
     EXPECT_EQ(1, time.wDayOfWeek); // Monday
     EXPECT_EQ("2001-01-01T10:20:30.456", CDateTime(time).ToString());
     EXPECT_TRUE(Throws<CVxInvalidValueException>(
-        [] { Value("2001-01-01").GetAsSystemTime(); },
+        [] { DateValue("2001-01-01").GetAsSystemTime(); },
         "Failed to GetAsSystemTime, Date Status must be dateTime. Invalid Date Type: date."));
 
     SYSTEMTIME bad = time;
-    bad.wMonth = 13;
-    EXPECT_EQ(CDateTime::dt_yearZero, CDateTime(bad).GetType());
     bad.wMonth = 257; // does not wrap into range
     EXPECT_EQ(CDateTime::dt_yearZero, CDateTime(bad).GetType());
     CDateTime value;
     EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { value = bad; }, "Invalid Month [255] (1 <= month <= 12)"));
-    CDateTime date = Value("2001-01-01");
+    CDateTime date = DateValue("2001-01-01");
     EXPECT_TRUE(Throws<CVxInvalidStateException>(
         [&] { date = time; }, "Failed to copy CDateTime. Invalid Date Type: dateTime, expected: date."));
 
-    const std::uint64_t ticks1970 = 116444736000000000ULL;
-    const FILETIME epoch{static_cast<std::uint32_t>(ticks1970), static_cast<std::uint32_t>(ticks1970 >> 32)};
+    const FILETIME epoch{0xD53E8000u, 0x019DB1DEu}; // 116444736000000000 ticks since 1601
     EXPECT_EQ("1970-01-01T00:00:00", CDateTime(epoch).ToString());
     const FILETIME beyond63Bits{0, 0x80000000u};
     EXPECT_EQ(CDateTime::dt_yearZero, CDateTime(beyond63Bits).GetType());
     EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { value = beyond63Bits; },
                                                  "Failed to convert FILETIME to SYSTEMTIME"));
-    const FILETIME year30828{0xFFFFFFFFu, 0x7FFFFFFFu};
-    EXPECT_EQ(CDateTime::dt_yearZero, CDateTime(year30828).GetType());
-}
 
-TEST(DateTimeArithmetic, PresentLocalTime)
-{
     const CDateTime now = CDateTime::GetTickCount();
     EXPECT_EQ(CDateTime::dt_dateTime, now.GetType());
     EXPECT_GE(now.GetYear(), 2024);
-    EXPECT_FALSE(now.IsUTC());
 }

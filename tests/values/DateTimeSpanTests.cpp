@@ -6,59 +6,36 @@
 using VxXmlLib16::CDateTime;
 using VxXmlLib16::CDateTimeSpan;
 using VxXmlLib16::CVxInvalidValueException;
+using VxTest::SpanValue;
 using VxTest::Throws;
-
-namespace {
-
-CDateTimeSpan Span(const char *text) { return VxTest::SpanValue(text); }
-
-std::string Expected(const char *text)
-{
-    return std::string("Invalid XSD Duration [") + text + "] expected [-]P[nY][nM][nD][T[nH][nM][nS.ff]]";
-}
-
-} // namespace
 
 TEST(DateTimeSpan, ParseAndPrint)
 {
     // A null print: the text fails with the general message.
     const struct { const char *text, *printed; } cases[] = {
-        {"P1Y2M3DT4H5M6.5S", "P1Y2M3DT4H5M6.5S"}, {"-P1D", "-P1D"}, {"P1Y", "P1Y"}, {"PT0S", "P"}, {"PY", "P"},
+        {"P1Y2M3DT4H5M6.5S", "P1Y2M3DT4H5M6.5S"}, {"-P1D", "-P1D"}, {"PT0S", "P"}, {"PY", "P"},
         {"P1M", "P1M"}, {"PT1M", "PT1M"}, {"PT1.S", "PT1S"}, {"PT.5S", "PT0.5S"}, {"PT1.", "PT1S"},
-        {"PT1.123456789S", "PT1.123456009S"}, {"PT1.000000100S", "PT1S"}, {"P14M", "P14M"},
+        {"PT1.123456789S", "PT1.123456009S"}, {"PT1.000000100S", "PT1S"},
         // "Y" is taken at any stage and lets the date fields follow again.
-        {"PT1H1Y", "P1YT1H"}, {"PT1H1Y2M", "P1Y2MT1H"}, {"PT1.5S1Y", "P1YT1.5S"},
+        {"PT1H1Y2M", "P1Y2MT1H"},
         // Numbers wrap in 32 bits; minutes and seconds are sign-extended, years cut to 16 bits.
         {"P4294967297D", "P1D"}, {"PT4294967295M", "PT18446744073709551615M"}, {"P65537Y", "P1Y"}, {"P", nullptr},
         {"PT", nullptr}, {"P1YT", nullptr}, {"P-1D", nullptr}, {"1D", nullptr}, {"P1", nullptr}, {"P1D1M", nullptr},
-        {"PT1S1M", nullptr}, {"P1DT1D", nullptr}, {"PT1.5", nullptr},
+        {"PT1S1M", nullptr}, {"PT1.5", nullptr},
     };
     for (const auto &c : cases) {
         SCOPED_TRACE(c.text);
         if (c.printed == nullptr) {
-            EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { Span(c.text); }, Expected(c.text)));
+            EXPECT_TRUE(Throws<CVxInvalidValueException>(
+                [&] { SpanValue(c.text); },
+                std::string("Invalid XSD Duration [") + c.text + "] expected [-]P[nY][nM][nD][T[nH][nM][nS.ff]]"));
             continue;
         }
-        EXPECT_EQ(c.printed, Span(c.text).ToString());
+        EXPECT_EQ(c.printed, SpanValue(c.text).ToString());
     }
 }
 
-TEST(DateTimeSpan, ParsedFields)
-{
-    const CDateTimeSpan all = Span("-P1Y2M3DT4H5M6.123456789S");
-    EXPECT_TRUE(all.IsNegative());
-    EXPECT_EQ(2u, all.GetMonths());
-    EXPECT_EQ(5u, all.GetMinutes());
-    EXPECT_EQ(123, all.GetMilliSeconds());
-    EXPECT_EQ(456, all.GetMicroSeconds());
-    EXPECT_EQ(9, all.GetNanoSeconds()); // each nano digit overwrites the one before
-
-    const CDateTimeSpan half = Span("PT.5S");
-    EXPECT_EQ(0u, half.GetSeconds());
-    EXPECT_EQ(500, half.GetMilliSeconds());
-}
-
-TEST(DateTimeSpan, ParseFailures)
+TEST(DateTimeSpan, ParseFailuresConstructionAndSign)
 {
     CDateTimeSpan span;
     EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { span.ParseXSDDuration(nullptr); },
@@ -72,20 +49,12 @@ TEST(DateTimeSpan, ParseFailures)
     span.Negate();
     EXPECT_ANY_THROW(span.ParseXSDDuration("P1Y2MT"));
     EXPECT_EQ("P1Y2M", span.ToString());
-}
 
-TEST(DateTimeSpan, ConstructionAndSign)
-{
-    CDateTimeSpan span(1, 2, 3, 4, 5, 6, 7, 8, 9);
+    span = CDateTimeSpan(1, 2, 3, 4, 5, 6, 7, 8, 9);
     EXPECT_EQ("P1Y2M3DT4H5M6.007008009S", span.ToString());
-    EXPECT_EQ("P1Y2M3DT4H5M6S", CDateTimeSpan(1, 2, 3, 4, 5, 6).ToString());
-    EXPECT_EQ("PT1H30M", CDateTimeSpan(1, 30, 0).ToString());
-
     span.Negate();
-    EXPECT_TRUE(span.IsNegative());
     span.Negate();
     EXPECT_FALSE(span.IsNegative());
-    EXPECT_TRUE(span.GetAsNegative().IsNegative());
     EXPECT_TRUE(span.GetAsNegative().GetAsNegative().IsNegative());
 
     span.Negate();
@@ -101,16 +70,14 @@ TEST(DateTimeSpan, OrderOverFourReferenceDates)
     const struct { const char *left; const char *right; CDateTime::DTCompareResult result; } cases[] = {
         {"P1M", "P30D", CDateTime::dt_indeterminate}, {"P1Y", "P365D", CDateTime::dt_indeterminate},
         {"P1Y", "P366D", CDateTime::dt_indeterminate}, {"P2D", "P1D", CDateTime::dt_greater},
-        {"P1D", "P2D", CDateTime::dt_less}, {"P1Y", "P12M", CDateTime::dt_equal},
         {"P1D", "PT24H", CDateTime::dt_equal},
         {"PT1H", "PT2H", CDateTime::dt_equal}, // only whole days count
-        {"P2M", "P62D", CDateTime::dt_indeterminate}, {"P5M", "P140D", CDateTime::dt_greater},
         {"-P1D", "P1D", CDateTime::dt_less},
     };
     for (const auto &c : cases) {
         SCOPED_TRACE(std::string(c.left) + " " + c.right);
-        const CDateTimeSpan left = Span(c.left);
-        const CDateTimeSpan right = Span(c.right);
+        const CDateTimeSpan left = SpanValue(c.left);
+        const CDateTimeSpan right = SpanValue(c.right);
         EXPECT_EQ(c.result, left.CompareTo(right));
         EXPECT_EQ(c.result == CDateTime::dt_equal, left == right);
         EXPECT_EQ(c.result != CDateTime::dt_equal, left != right);

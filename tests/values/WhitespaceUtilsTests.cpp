@@ -10,24 +10,19 @@ using Rule = CWhitespaceUtils::WhitespaceRule;
 
 namespace {
 
-struct RuleCase { Rule rule; std::string text; std::string expected; };
-
-TEST(WhitespaceUtils, ApplyRuleByRule)
+TEST(WhitespaceUtils, ApplyRuleByRuleAndUnknownRules)
 {
     const std::string mixed = "  a \t\r\n b  ";
     constexpr Rule None = CWhitespaceUtils::WhitespaceRule_None;
     constexpr Rule Preserve = CWhitespaceUtils::WhitespaceRule_Preserve;
     constexpr Rule Replace = CWhitespaceUtils::WhitespaceRule_Replace;
     constexpr Rule Collapse = CWhitespaceUtils::WhitespaceRule_Collapse;
-    const RuleCase cases[] = {
-        {None, mixed, mixed}, {None, std::string("a\0b", 3), std::string("a\0b", 3)},
-        {Preserve, "a\rb\nc\r\nd", "a\nb\nc\nd"}, {Preserve, "a\r\r\nb", "a\n\nb"},
+    const struct { Rule rule; std::string text, expected; } cases[] = {
+        {None, mixed, mixed}, {Preserve, "a\rb\nc\r\nd", "a\nb\nc\nd"}, {Preserve, "a\r\r\nb", "a\n\nb"},
         {Preserve, std::string("a\0\rb", 4), std::string("a\0\nb", 4)},
-        {Preserve, std::string("x\0 ", 3), std::string("x\0 ", 3)},
-        {Replace, "a\tb\nc\rd", "a b c d"}, {Replace, "a\r\nb", "a b"}, {Replace, "\r\n\r\n", "  "},
+        {Replace, "a\tb\nc\rd", "a b c d"}, {Replace, "a\r\nb", "a b"},
         {Replace, std::string("a\0\tb", 4), "a"}, {Replace, std::string("a\0 b", 4), std::string("a\0 b", 4)},
-        {Collapse, mixed, "a b"}, {Collapse, " \t\r\n ", ""}, {Collapse, "", ""}, {Collapse, "\va\f", "\va\f"},
-        {Collapse, std::string("a\0b ", 4), "a"},
+        {Collapse, mixed, "a b"}, {Collapse, " \t\r\n ", ""}, {Collapse, "\va\f", "\va\f"},
         // The NUL was the last byte written, so the space before it stays.
         {Collapse, std::string("a \0", 3), "a "},
     };
@@ -35,23 +30,19 @@ TEST(WhitespaceUtils, ApplyRuleByRule)
         SCOPED_TRACE(testing::Message() << "rule " << c.rule << " [" << c.text << "]");
         EXPECT_EQ(CWhitespaceUtils::ApplyRule(c.rule, c.text), c.expected);
     }
+
+    for (int rule : {-1, 4, 1000}) {
+        EXPECT_TRUE(VxTest::Throws<VxXmlLib16::CVxException>(
+            [rule] { CWhitespaceUtils::ApplyRule(static_cast<Rule>(rule), "x"); }, "Unknown WhitespaceRule"));
+    }
 }
 
 TEST(WhitespaceUtils, PreserveOfCharactersAlwaysCopiesTheGivenLength)
 {
     EXPECT_EQ(CWhitespaceUtils::Preserve("a\r\nb\rc", 6), "a\nb\nc");
-    EXPECT_EQ(CWhitespaceUtils::Preserve("ab\r", 2), "ab");
     EXPECT_EQ(CWhitespaceUtils::Preserve("a\r\n", 2), "a\n");
     EXPECT_EQ(CWhitespaceUtils::Preserve(nullptr, 3), "");
     EXPECT_EQ(CWhitespaceUtils::Preserve("abc", -1), "");
-}
-
-TEST(WhitespaceUtils, UnknownRuleIsAProgrammingError)
-{
-    for (int rule : {-1, 4, 1000}) {
-        EXPECT_TRUE(VxTest::Throws<VxXmlLib16::CVxException>(
-            [rule] { CWhitespaceUtils::ApplyRule(static_cast<Rule>(rule), "x"); }, "Unknown WhitespaceRule"));
-    }
 }
 
 } // namespace
