@@ -86,17 +86,20 @@ TEST(Facets, BoundsOfTheOrderedTypes)
         {"10:00:00", ItemType_time, MinEx("09:59:59"), nullptr},
         {"P1Y", ItemType_duration, MaxEx("P12M"), "Invalid Value for e [P1Y]."},
         {"true", ItemType_boolean, Max("false"), nullptr},
+        // A bound with a zone against a value without one that lies within 14 hours of it
+        // is neither less nor more: it passes every bound.
+        {"2001-01-01T12:00:00", ItemType_datetime, Min("2001-01-01T12:00:00Z"), nullptr},
+        {"2001-01-01T12:00:00", ItemType_datetime, Max("2001-01-01T12:00:00Z"), nullptr},
+        {"2001-01-01T12:00:00", ItemType_datetime, MinEx("2001-01-01T12:00:00Z"), nullptr},
+        {"2001-01-01T12:00:00", ItemType_datetime, MaxEx("2001-01-01T12:00:00Z"), nullptr},
     };
     for (const auto &c : cases)
         EXPECT_EQ(c.failure ? c.failure : "", Check(c.value, c.type, c.facets)) << c.value;
-}
 
-TEST(Facets, IndeterminateDateOrderPassesEveryBound)
-{
-    // A bound with a zone against a value without one that lies within 14 hours of it.
-    for (const Facets &facets : {Min("2001-01-01T12:00:00Z"), Max("2001-01-01T12:00:00Z"),
-                                 MinEx("2001-01-01T12:00:00Z"), MaxEx("2001-01-01T12:00:00Z")})
-        EXPECT_EQ("", Check("2001-01-01T12:00:00", ItemType_datetime, facets));
+    // A bad bound is the conversion's fault, not a facet failure.
+    const std::string badBound = Check("5", ItemType_i4, Min("five"));
+    EXPECT_NE("", badBound);
+    EXPECT_EQ(std::string::npos, badBound.find("Invalid Value for e"));
 }
 
 TEST(Facets, TotalAndFractionDigits)
@@ -137,6 +140,7 @@ TEST(Facets, PatternsAreTranslatedAndAnchored)
         {"\\p{IsLatinExtended-A}", "\xC5\x81", true}, {"\\p{IsLatinExtended-B}", "\xC6\x80", true},
         {"\\p{IsLatinExtended-B}", "\xC9\x8F", true}, {"\\p{IsLatinExtended-B}", "\xC9\x90", false},
         {"[A-Z]{2}\\d{4}", "AB1234", true},
+        {"(a*)*b", "aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa", false}, // gives up instead of hanging
     };
     for (const auto &c : cases)
         EXPECT_EQ(c.matches, MatchXsdPattern(c.pattern, c.value)) << c.pattern << " ~ " << c.value;
@@ -153,12 +157,6 @@ TEST(Facets, PatternsAreTranslatedAndAnchored)
     }
 }
 
-TEST(Facets, PathologicalPatternGivesUpInsteadOfHanging)
-{
-    const std::string value(40, 'a');
-    EXPECT_FALSE(MatchXsdPattern("(a*)*b", value));
-}
-
 TEST(Facets, CharAndUnknownTypesAlwaysFail)
 {
     VxVariant c;
@@ -169,16 +167,4 @@ TEST(Facets, CharAndUnknownTypesAlwaysFail)
     VxVariant object;
     object.SetXmlObject(nullptr);
     EXPECT_THROW(CheckPrimitiveRestriction("e", object, ItemType_XmlObject, CPrimitiveRestrictions()), CVxException);
-}
-
-TEST(Facets, BadBoundIsTheConversionsFault)
-{
-    VxVariant value;
-    value.SetI4(5);
-    try {
-        CheckPrimitiveRestriction("e", value, ItemType_i4, Min("five").Make());
-        FAIL();
-    } catch (const CVxInvalidValueException &e) {
-        EXPECT_EQ(std::string::npos, e.GetMessage().find("Invalid Value for e"));
-    }
 }
