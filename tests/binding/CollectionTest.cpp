@@ -147,19 +147,13 @@ TEST(Collection, RemovalReportsNoIndexAndReleasesTheItem)
     recorder.events.clear();
     items->Clear();
     EXPECT_TRUE(recorder.events.empty());
-}
 
-TEST(Collection, DestructionClearsAndCopiesNeverShareNodes)
-{
-    int destroyed = 0;
-    {
-        CSmartPtr<ItemCollection> items(new ItemCollection);
-        items->AppendItem(new Item("a", &destroyed));
-        items->AppendItem(new Item("b", &destroyed));
-        CSmartPtr<ItemCollection> copy(new ItemCollection(*items));
-        copy->Release(); // a copy starts with its source's count; drop the one it took over
-        EXPECT_EQ(0, copy->GetCount());
-    }
+    // A copy takes no nodes; the source's destruction clears it.
+    items->AppendItem(new Item("c", &destroyed));
+    CSmartPtr<ItemCollection> copy(new ItemCollection(*items));
+    copy->Release(); // a copy starts with its source's count; drop the one it took over
+    EXPECT_EQ(0, copy->GetCount());
+    items = nullptr;
     EXPECT_EQ(2, destroyed);
 }
 
@@ -180,12 +174,7 @@ TEST(Collection, CountValidation)
     context.SetIgnoreInvalidCollectionCounts(true);
     EXPECT_TRUE(items->IsValidCount(context));
     EXPECT_NO_THROW(items->ValidateCount(context));
-
-    CSmartPtr<ItemCollection> unbounded(new ItemCollection(0, -1));
-    unbounded->AppendItem(new Item("x"));
-    unbounded->AppendItem(new Item("y"));
-    EXPECT_TRUE(unbounded->IsValidCount(CSerializationContext()));
     EXPECT_TRUE(Throws<CVxException>(
-        [&] { unbounded->GetTargetNamespace(); },
+        [&] { items->GetTargetNamespace(); },
         "CXmlCollectionBase::GetTargetNamespace Should not be used from within a Collection (program logic error)"));
 }
