@@ -101,16 +101,13 @@ TEST(Wildcards, ElementCollectionKeepsAnyRuleAndTakesKeywordAsDefaultNamespace)
     EXPECT_EQ(other->Add("y", "urn:t")->GetNamespace(), "urn:t");
     // And the limits given were not kept: three items write without complaint.
     other->Add("z", "urn:u");
-    EXPECT_EQ(other->GetCount(), 3);
-    CSerializationContext context;
-    EXPECT_NO_THROW(other->ValidateCount(context));
+    EXPECT_NO_THROW(other->ValidateCount(CSerializationContext()));
 
     CSmartPtr<CElementCol> plain = new CElementCol("", "urn:x", "", 0, -1);
     EXPECT_TRUE(Throws<CVxInvalidStateException>([&] { plain->Add("x"); },
                                                  "A Namespace has not been set for this Collection"));
     EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { plain->Add(static_cast<CElement *>(nullptr)); },
                                                  "A NULL item can not be added to the collection"));
-    EXPECT_EQ(plain->GetCount(), 0);
 }
 
 TEST(Wildcards, AttributeCollectionNamespaceComesFromAUriRule)
