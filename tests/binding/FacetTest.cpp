@@ -1,21 +1,12 @@
 #include <gtest/gtest.h>
 
-#include <cmath>
-#include <limits>
 #include <string>
 
-#include "ExceptionAssert.h"
-#include "BigInteger.h"
-#include "BinaryData.h"
-#include "Conversions.h"
-#include "DateTime.h"
-#include "Decimal.h"
 #include "Exceptions.h"
 #include "PrimitiveRestrictions.h"
 #include "Variant.h"
 
 using namespace VxXmlLib16;
-using VxTest::Throws;
 
 namespace {
 
@@ -36,7 +27,8 @@ struct Facets
     }
 };
 
-// "" when the value passes, else the message of the failure.
+// "" when the value passes, else the message of the failure; one of another kind than an
+// invalid value is marked "other: ".
 std::string Check(const char *text, ItemType type, const Facets &facets)
 {
     VxVariant value;
@@ -45,6 +37,8 @@ std::string Check(const char *text, ItemType type, const Facets &facets)
         CheckPrimitiveRestriction("e", value, type, facets.Make());
     } catch (const CVxInvalidValueException &e) {
         return e.GetMessage();
+    } catch (const CVxException &e) {
+        return "other: " + e.GetMessage();
     }
     return "";
 }
@@ -138,23 +132,15 @@ TEST(Facets, PatternsAreTranslatedAndAnchored)
         EXPECT_EQ(c.matches, MatchXsdPattern(c.pattern, c.value)) << c.pattern << " ~ " << c.value;
 
     EXPECT_EQ("Invalid Value for e [ab].", Check("ab", ItemType_string, Pattern("[a-z]")));
-    try {
-        CheckRestrictionValue("e", std::string("v"), ItemType_string, Pattern("(").Make());
-        FAIL();
-    } catch (const CVxInvalidValueException &) {
-        FAIL() << "a pattern that does not compile is no facet failure";
-    } catch (const CVxException &e) {
-        EXPECT_EQ(0u, e.GetMessage().find("Invalid Regular Expression: v Error: '"));
-        EXPECT_NE(std::string::npos, e.GetMessage().find("'\nInvalid Value for e [v]."));
-    }
+    // A pattern that does not compile is no facet failure.
+    const std::string broken = Check("v", ItemType_string, Pattern("("));
+    EXPECT_EQ(0u, broken.find("other: Invalid Regular Expression: v Error: '"));
+    EXPECT_NE(std::string::npos, broken.find("'\nInvalid Value for e [v]."));
 }
 
 TEST(Facets, CharAndUnknownTypesAlwaysFail)
 {
-    VxVariant c;
-    c.SetChar('x');
-    EXPECT_TRUE(Throws<CVxInvalidValueException>(
-        [&] { CheckPrimitiveRestriction("e", c, ItemType_char, CPrimitiveRestrictions()); }, "Unknown type [char]."));
+    EXPECT_EQ("Unknown type [char].", Check("x", ItemType_char, Facets()));
     EXPECT_THROW(CheckRestrictionValue("e", 'x', ItemType_char, CPrimitiveRestrictions()), CVxInvalidValueException);
     VxVariant object;
     object.SetXmlObject(nullptr);

@@ -40,13 +40,6 @@ public:
     using CElementCol::FromXmlLockElementName_Int;
 };
 
-std::string RoundTrip(const std::string &document, bool formatted)
-{
-    CSmartPtr<CElement> element = new CElement("placeholder");
-    element->FromXml(document.c_str());
-    return element->ToXml(false, formatted);
-}
-
 // SetNamespaceRestrictions throws a pointer; this owns what arrives.
 template <class Action>
 std::unique_ptr<CVxInvalidNamespaceException> PointerThrown(Action &&action)
@@ -181,19 +174,21 @@ TEST(Wildcards, RoundTripKeepsElementsAttributesNamespacesAndText)
     for (const std::string &document : documents) {
         const std::string expected = CanonicalXml(document);
         ASSERT_EQ(expected.find("error"), std::string::npos) << expected;
-        EXPECT_EQ(CanonicalXml(RoundTrip(document, false)), expected);
-        EXPECT_EQ(CanonicalXml(RoundTrip(document, true)), expected);
+        CSmartPtr<CElement> element = new CElement("placeholder");
+        element->FromXml(document.c_str());
+        EXPECT_EQ(CanonicalXml(element->ToXml(false, false)), expected);
+        EXPECT_EQ(CanonicalXml(element->ToXml(false, true)), expected);
+        // The entry point that reads another object's rendering.
+        CSmartPtr<CElement> target = new CElement("t");
+        target->FromXmlElement(element.operator->());
+        EXPECT_EQ(CanonicalXml(target->ToXml(false, false)), expected);
     }
 }
 
-TEST(Wildcards, FromXmlElementAndCloneCopyTheWholeTree)
+TEST(Wildcards, CloneIsIndependentAndEqual)
 {
     CSmartPtr<CElement> original = new CElement("o");
     original->FromXml(kNamespaceHeavy);
-    CSmartPtr<CElement> target = new CElement("t");
-    target->FromXmlElement(original.operator->());
-    EXPECT_EQ(CanonicalXml(target->ToXml(false, false)), CanonicalXml(kNamespaceHeavy));
-
     CSmartPtr<CElement> copy = original->Clone();
     EXPECT_EQ(copy->ToXml(false, false), original->ToXml(false, false));
     copy->GetChildElements()->Item(0)->SetText("changed");
