@@ -92,7 +92,6 @@ TEST(Collection, InsertionsFireAddLinkCompleteChange)
     items->AddBeforeItem(nullptr, new Item("z"));
     items->AddAfterItem(nullptr, new Item("0"));
     EXPECT_EQ("0axbcdz", items->Names());
-    EXPECT_EQ(7, items->GetCount());
     EXPECT_EQ((Events{"Add:b", "AddComplete:b", "Change"}),
               Events(recorder.events.begin(), recorder.events.begin() + 3));
     EXPECT_EQ(21u, recorder.events.size());
@@ -143,7 +142,6 @@ TEST(Collection, RemovalReportsNoIndexAndReleasesTheItem)
     EXPECT_EQ((Events{"Remove:null", "RemoveComplete:null", "Change"}), recorder.events);
     items->Clear();
     EXPECT_EQ(1, destroyed); // still held by kept
-    EXPECT_EQ(0, items->GetCount());
     recorder.events.clear();
     items->Clear();
     EXPECT_TRUE(recorder.events.empty());

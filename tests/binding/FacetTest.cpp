@@ -49,7 +49,7 @@ Facets MinEx(const char *bound) { Facets f; f.minExclusive = bound; return f; }
 Facets MaxEx(const char *bound) { Facets f; f.maxExclusive = bound; return f; }
 Facets Digits(int total, int fraction = -1) { Facets f; f.totalDigits = total; f.fractionDigits = fraction; return f; }
 Facets Pattern(const char *pattern) { Facets f; f.pattern = pattern; return f; }
-Facets Lengths(int min, int max, int exact) { Facets f; f.minLength = min; f.maxLength = max; f.length = exact; return f; }
+Facets Lengths(int lo, int hi, int exact) { Facets f; f.minLength = lo; f.maxLength = hi; f.length = exact; return f; }
 
 } // namespace
 
@@ -72,7 +72,8 @@ TEST(Facets, EachTypeAppliesTheFacetsOfItsRow)
         {"NaN", ItemType_r8, Min("0"), "Invalid Value for e [nan]"}, {"NaN", ItemType_r8, Facets(), nullptr},
         {"1.10", ItemType_decimal, Min("1.1"), nullptr},
         {"1.09", ItemType_decimal, Min("1.1"), "Invalid Value for e [1.09]."},
-        {"123456789012345678901", ItemType_integer, MaxEx("123456789012345678901"), "Invalid Value for e [123456789012345678901]."},
+        {"123456789012345678901", ItemType_integer, MaxEx("123456789012345678901"),
+         "Invalid Value for e [123456789012345678901]."},
         {"---05", ItemType_day, Min("---06"), "Invalid Value for e [5]"},
         {"1999", ItemType_year, MinEx("1999"), "Invalid Value for e [1999]"},
         {"2001-02-03", ItemType_date, Max("2001-02-02"), "Invalid Value for e [2001-02-03]."},

@@ -25,9 +25,9 @@ template <class Col>
 class Open : public Col
 {
 public:
-    explicit Open(const char *maxInclusive = "", int minOccurs = 0,
-                  Rule rule = CWhitespaceUtils::WhitespaceRule_Collapse, const char *format = nullptr)
-        : Col("v", "urn:t", minOccurs, -1, "", -1, -1, "", maxInclusive, "", "", -1, -1, -1, rule, format)
+    explicit Open(const char *maxInclusive = "", int minOccurs = 0)
+        : Col("v", "urn:t", minOccurs, -1, "", -1, -1, "", maxInclusive, "", "", -1, -1, -1,
+              CWhitespaceUtils::WhitespaceRule_Collapse, nullptr)
     {
     }
     using Col::FromXml_Int;
@@ -214,7 +214,7 @@ TYPED_TEST(TypeCollectionTemplate, EventsAndIndexRules)
               recorder.events);
 }
 
-TEST(TypeCollectionFacets, FailureOnAddOrReadLeavesListUnchangedWithoutEvents)
+TEST(TypeCollectionChecks, FailureOnAddOrReadLeavesListUnchangedWithoutEvents)
 {
     Recorder recorder;
     CSmartPtr<Open<Ci4Col>> col(new Open<Ci4Col>("10"));
@@ -228,15 +228,13 @@ TEST(TypeCollectionFacets, FailureOnAddOrReadLeavesListUnchangedWithoutEvents)
     // Only the 9 got in.
     EXPECT_EQ((Events{"Add", "AddComplete", "Change"}), recorder.events);
     EXPECT_EQ((std::vector<std::int32_t>{10, 9}), std::vector<std::int32_t>(col->begin(), col->end()));
-}
 
-TEST(TypeCollectionDates, EachTakesOnlyItsOwnDateType)
-{
+    // Each date collection takes only its own date type.
+    recorder.events.clear();
     const CDateTime year(CDateTime::dt_gYear);
-    Recorder recorder;
-    const auto refused = [&](CdatetimeBaseCol &&col, const std::string &type) {
-        col.AddEventListener(&recorder);
-        return Throws<CVxInvalidParamException>([&] { col.AddAt(0, year); },
+    const auto refused = [&](CdatetimeBaseCol &&dates, const std::string &type) {
+        dates.AddEventListener(&recorder);
+        return Throws<CVxInvalidParamException>([&] { dates.AddAt(0, year); },
                                                 "Dates added to this collection must be of type " + type);
     };
     EXPECT_TRUE(refused(Open<CdatetimeCol>(), "dt_dateTime"));
