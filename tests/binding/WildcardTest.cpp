@@ -124,17 +124,6 @@ TEST(Wildcards, AttributeCollectionNamespaceComesFromAUriRule)
     EXPECT_EQ(CSmartPtr<CAttributeCol>(new CAttributeCol("", "##other", ""))->GetNamespace(), "");
 }
 
-TEST(Wildcards, WritesNameAttributesChildrenThenText)
-{
-    CSmartPtr<CElement> element = new CElement("a");
-    element->SetText("t&x");
-    element->GetAttributes()->Add("x", "1");
-    element->GetAttributes()->Add("y", "2", "urn:n");
-    element->GetChildElements()->Add(new CElement("b", "urn:n"));
-    EXPECT_EQ(element->ToXml(false, false), "<a x=\"1\" xmlns:AA=\"urn:n\" AA:y=\"2\"><AA:b/>t&amp;x</a>");
-    EXPECT_EQ(CSmartPtr<CElement>(new CElement("a"))->ToXml(false, false), "<a/>");
-}
-
 TEST(Wildcards, ReadingRefusals)
 {
     CXmlDocument document;
@@ -222,13 +211,14 @@ TEST(Wildcards, NamespaceRestrictionsThrowAPointerForTheElementsOwnNamespace)
     EXPECT_EQ(element->GetNamespace(), "urn:z");
 }
 
-TEST(Wildcards, ElementWithDefaultNamespaceIsPastedWithItsOwnDeclaration)
+TEST(Wildcards, ElementFromAnObjectIsWrittenPlainOrPastedWithItsDefaultNamespace)
 {
     CSmartPtr<CElement> object = new CElement("r", "urn:d");
-    object->GetChildElements()->Add("c")->SetText("t");
+    object->GetAttributes()->Add("u", "1", "");
     object->GetAttributes()->Add("k", "v");
+    object->GetChildElements()->Add("c")->SetText("t");
     CSmartPtr<CElement> built = new CElement(object.operator->(), "urn:d");
-    EXPECT_EQ(built->GetAttributes()->GetCount(), 1);
+    EXPECT_EQ(built->GetAttributes()->GetCount(), 2);
     CSmartPtr<CElement> parent = new CElement("p", "urn:p");
     parent->GetChildElements()->Add(built.operator->());
     parent->GetChildElements()->Add("after", "urn:p");
@@ -238,9 +228,11 @@ TEST(Wildcards, ElementWithDefaultNamespaceIsPastedWithItsOwnDeclaration)
     EXPECT_EQ(CanonicalXml(parent->ToXml(true, true)),
               "0 urn:p|p\n1 urn:d|r\n2 urn:d|c [t]\n1 urn:p|after []\n");
 
-    // Without a default namespace the element is an ordinary one.
+    // Without a default namespace the element is an ordinary one: name, attributes, children, then text.
     CSmartPtr<CElement> plain = new CElement(object.operator->(), nullptr);
-    EXPECT_EQ(plain->ToXml(false, false), "<AA:r xmlns:AA=\"urn:d\" AA:k=\"v\"><AA:c>t</AA:c></AA:r>");
+    plain->SetText("x&y");
+    EXPECT_EQ(plain->ToXml(false, false),
+              "<AA:r xmlns:AA=\"urn:d\" u=\"1\" AA:k=\"v\"><AA:c>t</AA:c>x&amp;y</AA:r>");
     EXPECT_TRUE(Throws<CVxInvalidParamException>(
         [] { CSmartPtr<CElement> e = new CElement(static_cast<CXmlObjectBase *>(nullptr), "urn:d"); },
         "The object to build the element from is NULL"));
