@@ -36,7 +36,7 @@ TEST(Variant, StatesInvalidValidNil)
     EXPECT_FALSE(s.IsValid());
 }
 
-TEST(Variant, AssignmentCopiesDeeplyAndSelfAssignmentClears)
+TEST(Variant, CopiesAreDeepOrCountedAndSelfAssignmentClears)
 {
     VxVariant s;
     s.SetString("abc");
@@ -53,10 +53,7 @@ TEST(Variant, AssignmentCopiesDeeplyAndSelfAssignmentClears)
     const VxVariant nilCopy(date);
     EXPECT_TRUE(nilCopy.IsNil());
     EXPECT_EQ(ItemType_date, nilCopy.GetTypeAsEnum());
-}
 
-TEST(Variant, CountedReferences)
-{
     int destroyed = 0;
     {
         VxVariant v;
