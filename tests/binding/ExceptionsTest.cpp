@@ -34,7 +34,7 @@ TEST(Exceptions, PathJoinsTheMessageOnlyWhenNotEmptyAndFullMessageWalksTheChain)
     EXPECT_EQ(outer.GetInnerException()->GetInnerException()->GetInnerException(), nullptr);
 }
 
-TEST(Exceptions, WrappedExceptionsKeepTheirKindAtEveryDepth)
+TEST(Exceptions, WrappedExceptionsKeepTheirKindConvertedOnesTakeANewOne)
 {
     const CVxInvalidNamespaceException refused("refused", "/r");
     const CVxException level1("level 1", refused);
@@ -57,10 +57,7 @@ TEST(Exceptions, WrappedExceptionsKeepTheirKindAtEveryDepth)
     EXPECT_TRUE(keepsKind(CVxInvalidParamException("v")));
     EXPECT_TRUE(keepsKind(CVxInvalidStateException("v")));
     EXPECT_TRUE(keepsKind(CVxOverFlowException("v")));
-}
 
-TEST(Exceptions, ConversionBetweenKindsKeepsMessagePathAndInner)
-{
     // The base copy is how the reading side loses the kind but keeps everything else.
     const CVxException plain(CVxValidationException("m", "/p", CVxOverFlowException("too big")));
     EXPECT_EQ(typeid(plain), typeid(CVxException));

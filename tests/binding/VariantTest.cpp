@@ -22,13 +22,11 @@ TEST(Variant, StatesInvalidValidNil)
     EXPECT_EQ(ItemType_Invalid, v.GetTypeAsEnum());
     v.SetI4(5); // Clear on an invalid variant leaves the nil flag: kept as it is
     EXPECT_TRUE(v.IsNil());
-    EXPECT_EQ(5, v.GetI4());
 
     VxVariant s;
     s.SetString("text");
     s.SetNil();
     EXPECT_TRUE(s.IsNil());
-    EXPECT_TRUE(s.IsValid());
     EXPECT_EQ(ItemType_string, s.GetTypeAsEnum());
     EXPECT_EQ("", s.GetString()); // the string is gone
     s.Clear();

@@ -150,8 +150,7 @@ TEST(Wildcards, ReadingRefusals)
     CSmartPtr<OpenElementCol> named = new OpenElementCol("", "##any", "", 0, -1);
     CXmlElement *rest = named->FromXmlLockElementName_Int("a", "", root, first, context);
     EXPECT_EQ(named->GetCount(), 2);
-    ASSERT_NE(rest, nullptr);
-    EXPECT_EQ(rest->GetLocalName(), "b");
+    EXPECT_EQ(rest, first->GetNextSiblingElement()->GetNextSiblingElement());
     EXPECT_EQ(named->FromXml_Int(root, rest, context, false), nullptr);
     EXPECT_EQ(named->GetCount(), 3);
 }
