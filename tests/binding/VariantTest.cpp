@@ -71,7 +71,7 @@ TEST(Variant, CopiesAreDeepOrCountedAndSelfAssignmentClears)
     EXPECT_EQ(1, destroyed);
 }
 
-TEST(Variant, TypeNamesAndTheirFailures)
+TEST(Variant, TypeNamesAndTextConversions)
 {
     VxVariant v;
     v.SetUI2(3);
@@ -86,11 +86,7 @@ TEST(Variant, TypeNamesAndTheirFailures)
     EXPECT_TRUE(Throws<CVxException>(
         [&] { v.FromString("1", ItemType_XmlObject, CWhitespaceUtils::WhitespaceRule_Collapse); },
         "Invalid Type 5 to convert to string"));
-}
 
-TEST(Variant, FromStringAndToString)
-{
-    VxVariant v;
     v.FromString(" 42 ", ItemType_i4, CWhitespaceUtils::WhitespaceRule_Collapse);
     EXPECT_EQ(42, v.GetI4());
     EXPECT_EQ("42", v.ToString("%5.2f")); // the format is ignored for integers

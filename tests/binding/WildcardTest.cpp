@@ -53,6 +53,12 @@ std::string PointerThrown(Action &&action)
     return "nothing thrown by pointer";
 }
 
+// Elements "e", each inside the one before.
+std::string Nested(int depth)
+{
+    return depth ? "<e>" + Nested(depth - 1) + "</e>" : std::string();
+}
+
 const char *const kNamespaceHeavy =
     "<p:root xmlns:p='urn:p' xmlns='urn:d' xmlns:q='urn:q' q:a='1' b='2' xml:lang='en' nl='x&#10;y'>"
     "<child q:c='3'><p:x>t</p:x><y xmlns=''>local</y><same/></child>"
@@ -87,7 +93,7 @@ TEST(Wildcards, ConstructionRefusesWhatTheRulesRefuse)
         EXPECT_TRUE(Throws<CVxInvalidNamespaceException>(refusal.action, refusal.message));
 }
 
-TEST(Wildcards, ElementCollectionKeepsAnyRuleAndTakesKeywordAsDefaultNamespace)
+TEST(Wildcards, CollectionsTakeTheirNamespaceFromTheRule)
 {
     CSmartPtr<CElementCol> other = new CElementCol("", "##other", "urn:t", 1, 1);
     EXPECT_EQ(other->Add("x")->GetNamespace(), "##other");
@@ -102,10 +108,8 @@ TEST(Wildcards, ElementCollectionKeepsAnyRuleAndTakesKeywordAsDefaultNamespace)
                                                  "A Namespace has not been set for this Collection"));
     EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { plain->Add(static_cast<CElement *>(nullptr)); },
                                                  "A NULL item can not be added to the collection"));
-}
 
-TEST(Wildcards, AttributeCollectionNamespaceComesFromAUriRule)
-{
+    // An attribute collection takes its namespace from a URI rule.
     CSmartPtr<CAttributeCol> uri = new CAttributeCol("", "urn:a", "");
     EXPECT_EQ(uri->Add("x")->GetNamespace(), "urn:a");
     EXPECT_EQ(uri->Add("e", "v", "")->GetNamespace(), "");
@@ -245,19 +249,11 @@ TEST(Wildcards, ElementFromAnObjectIsWrittenPlainOrPastedWithItsDefaultNamespace
 
 TEST(Wildcards, DepthOfReadingIsBounded)
 {
-    const auto nested = [](int depth) {
-        std::string text;
-        for (int i = 0; i < depth; ++i)
-            text += "<e>";
-        for (int i = 0; i < depth; ++i)
-            text += "</e>";
-        return text;
-    };
     CSmartPtr<CElement> element = new CElement("e");
     element->GetAttributes()->Add("stale", "1");
-    element->FromXml(nested(2000).c_str());
-    EXPECT_EQ(CanonicalXml(element->ToXml(false, false)), CanonicalXml(nested(2000)));
-    EXPECT_THROW(element->FromXml(nested(2001).c_str()), CVxValidationException);
+    element->FromXml(Nested(2000).c_str());
+    EXPECT_EQ(CanonicalXml(element->ToXml(false, false)), CanonicalXml(Nested(2000)));
+    EXPECT_THROW(element->FromXml(Nested(2001).c_str()), CVxValidationException);
     // A failed read leaves nothing behind that blocks the next one, and a read replaces
     // all earlier content.
     element->FromXml("<e><e/></e>");
