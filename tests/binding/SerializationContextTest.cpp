@@ -68,15 +68,12 @@ TEST(SerializationContext, CopiesTakeValuesButShareTheRootAttributes)
     CSmartPtr<CAttributeCol> attributes = source.GetAdditionalRootAttributes();
     EXPECT_EQ(source.FindAdditionalRootAttributes(), attributes);
     source.GetNamespaceAliases().Add("a", "urn:a");
-    source.GetProcessingInstructions().push_back("<?pi?>");
     source.SetIgnoreMissingMandatoryElements(true);
 
     CSerializationContext copy(source);
     copy.GetNamespaceAliases().Add("b", "urn:b");
-    copy.GetProcessingInstructions().clear();
     EXPECT_EQ(copy.GetNamespaceAliases().GetNamespaceCount(), 2);
     EXPECT_EQ(source.GetNamespaceAliases().GetNamespaceCount(), 1);
-    EXPECT_EQ(source.GetProcessingInstructions().size(), 1u);
     attributes->Add("schemaLocation", "urn:x x.xsd", "http://www.w3.org/2001/XMLSchema-instance");
     EXPECT_EQ(copy.GetAdditionalRootAttributes()->GetCount(), 1);
 

@@ -112,13 +112,12 @@ TEST(Wildcards, CollectionsTakeTheirNamespaceFromTheRule)
     // An attribute collection takes its namespace from a URI rule.
     CSmartPtr<CAttributeCol> uri = new CAttributeCol("", "urn:a", "");
     EXPECT_EQ(uri->Add("x")->GetNamespace(), "urn:a");
-    EXPECT_EQ(uri->Add("e", "v", "")->GetNamespace(), "");
     EXPECT_TRUE(Throws<CVxInvalidNamespaceException>(
         [&] { uri->Add("y", "v", "urn:c"); },
         "Invalid namespace [urn:c]. The namespace must be one of [urn:a] where the target namespace is []."));
     CSmartPtr<CAttribute> refused = new CAttribute("z", "v", "urn:c");
     EXPECT_THROW(uri->Add(refused), CVxInvalidNamespaceException);
-    EXPECT_EQ(uri->GetCount(), 2);
+    EXPECT_EQ(uri->GetCount(), 1);
 
     // A list takes its first URI, which the list itself then refuses: a URI token
     // compares with the whole rule.
@@ -155,8 +154,6 @@ TEST(Wildcards, ReadingRefusals)
     CXmlElement *rest = named->FromXmlLockElementName_Int("a", "", root, first, context);
     EXPECT_EQ(named->GetCount(), 2);
     EXPECT_EQ(rest, first->GetNextSiblingElement()->GetNextSiblingElement());
-    EXPECT_EQ(named->FromXml_Int(root, rest, context, false), nullptr);
-    EXPECT_EQ(named->GetCount(), 3);
 }
 
 TEST(Wildcards, RoundTripAndCloneKeepElementsAttributesNamespacesAndText)
