@@ -27,8 +27,7 @@ struct Facets
     }
 };
 
-// "" when the value passes, else the message of the failure; one of another kind than an
-// invalid value is marked "other: ".
+// "" when the value passes, else the failure's message, marked "other: " if no invalid value.
 std::string Check(const char *text, ItemType type, const Facets &facets)
 {
     VxVariant value;
@@ -79,8 +78,7 @@ TEST(Facets, EachTypeAppliesTheFacetsOfItsRow)
         {"2001-02-03", ItemType_date, Max("2001-02-02"), "Invalid Value for e [2001-02-03]."},
         {"P1Y", ItemType_duration, MaxEx("P12M"), "Invalid Value for e [P1Y]."},
         {"true", ItemType_boolean, Max("false"), nullptr},
-        // A bound with a zone against a value without one that lies within 14 hours of it
-        // is neither less nor more: it passes every bound.
+        // A zoned bound within 14 hours of an unzoned value is indeterminate: it passes every bound.
         {"2001-01-01T12:00:00", ItemType_datetime, Min("2001-01-01T12:00:00Z"), nullptr},
         {"2001-01-01T12:00:00", ItemType_datetime, Max("2001-01-01T12:00:00Z"), nullptr},
         {"2001-01-01T12:00:00", ItemType_datetime, MinEx("2001-01-01T12:00:00Z"), nullptr},

@@ -8,14 +8,6 @@
 using namespace VxXmlLib16;
 using VxTest::Throws;
 
-namespace {
-
-const char *const IgnoreBoth =
-    "The parser can only ignore additional elements, or ignore the fact that some required ones "
-    "are missing, you can not ignore both\n";
-
-} // namespace
-
 TEST(SerializationContext, SchemaTypeTwoIgnoresNamespacesWithoutTouchingTheFlag)
 {
     CSerializationContext context;
@@ -28,21 +20,21 @@ TEST(SerializationContext, SchemaTypeTwoIgnoresNamespacesWithoutTouchingTheFlag)
 
 TEST(SerializationContext, IgnoringUnknownAndMissingElementsExcludeEachOther)
 {
+    const std::string ignoreBoth = "The parser can only ignore additional elements, or ignore the fact that some "
+                                   "required ones are missing, you can not ignore both\n";
     CSerializationContext context;
     context.SetIgnoreUnknownElements(true);
     context.SetIgnoreMissingMandatoryElements(false);
-    EXPECT_TRUE(Throws<CVxInvalidStateException>([&] { context.SetIgnoreMissingMandatoryElements(true); },
-                                                 std::string(IgnoreBoth) +
-                                                     "Set IgnoreUnknownElements to false before setting "
-                                                     "IgnoreMissingMandatoryElements to true"));
+    EXPECT_TRUE(Throws<CVxInvalidStateException>(
+        [&] { context.SetIgnoreMissingMandatoryElements(true); },
+        ignoreBoth + "Set IgnoreUnknownElements to false before setting IgnoreMissingMandatoryElements to true"));
     EXPECT_FALSE(context.GetIgnoreMissingMandatoryElements());
 
     context.SetIgnoreUnknownElements(false);
     context.SetIgnoreMissingMandatoryElements(true);
-    EXPECT_TRUE(Throws<CVxInvalidStateException>([&] { context.SetIgnoreUnknownElements(true); },
-                                                 std::string(IgnoreBoth) +
-                                                     "Set IgnoreMissingMandatoryElements to false before setting "
-                                                     "IgnoreUnknownElements to true"));
+    EXPECT_TRUE(Throws<CVxInvalidStateException>(
+        [&] { context.SetIgnoreUnknownElements(true); },
+        ignoreBoth + "Set IgnoreMissingMandatoryElements to false before setting IgnoreUnknownElements to true"));
     EXPECT_FALSE(context.GetIgnoreUnknownElements());
 }
 

@@ -35,7 +35,6 @@ public:
 // Two canonical texts per member: each reads back and writes out unchanged.
 template <class Col>
 const std::array<const char *, 2> kTexts;
-// clang-format off
 template <> const std::array<const char *, 2> kTexts<ChexBinaryCol> = {"0AFF", "C0DE"};
 template <> const std::array<const char *, 2> kTexts<Cbase64BinaryCol> = {"AAEC", "/+8="};
 template <> const std::array<const char *, 2> kTexts<Ci1Col> = {"-5", "127"};
@@ -61,7 +60,6 @@ template <> const std::array<const char *, 2> kTexts<CstringCol> = {"a &lt; b", 
 template <> const std::array<const char *, 2> kTexts<CbooleanCol> = {"true", "false"};
 template <> const std::array<const char *, 2> kTexts<CdecimalCol> = {"-20.25", "123456789012345678901234567890.5"};
 template <> const std::array<const char *, 2> kTexts<CintegerCol> = {"-123456789012345678901234567890", "0"};
-// clang-format on
 
 // Records events as "Add", "AddComplete", "Change", "Remove:0", "RemoveComplete:null".
 class Recorder : public IEventSink
@@ -79,8 +77,7 @@ public:
 };
 using Events = std::vector<std::string>;
 
-// Reads the items of "<r xmlns='urn:t'>" + items + "<w/></r>" into the collection and
-// returns the name of the element where reading stopped.
+// Reads "<r xmlns='urn:t'>" + items + "<w/></r>"; gives the name where reading stopped.
 template <class Col>
 std::string Read(Open<Col> &col, const std::string &items)
 {
@@ -90,8 +87,7 @@ std::string Read(Open<Col> &col, const std::string &items)
     return col.FromXml_Int(root, root->GetFirstElement(), CSerializationContext(), false)->GetLocalName();
 }
 
-// A generated class "h" whose only content is the repeating element "v": a sequence
-// entry, or one alternative of a choice.
+// A generated class "h" whose only content is the repeating element "v", of the given group.
 template <class Col, XmlElementGroupType Group, class Entry>
 class CHolder final : public VxTest::CTestObject
 {
@@ -201,7 +197,6 @@ TEST(TypeCollectionChecks, FailureOnAddOrReadLeavesListUnchangedWithoutEvents)
     // Reading converts first, so a facet failure comes from Add, a bad text from the conversion.
     EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { Read(*col, "<v>9</v><v>12</v>"); }, "Invalid Value for v [12]"));
     EXPECT_THROW(Read(*col, "<v>x</v>"), CVxInvalidValueException);
-    // Only the 9 got in.
     EXPECT_EQ((Events{"Add", "AddComplete", "Change"}), recorder.events);
     EXPECT_EQ((std::vector<std::int32_t>{10, 9}), std::vector<std::int32_t>(col->begin(), col->end()));
 

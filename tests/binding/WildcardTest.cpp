@@ -119,8 +119,7 @@ TEST(Wildcards, CollectionsTakeTheirNamespaceFromTheRule)
     EXPECT_THROW(uri->Add(refused), CVxInvalidNamespaceException);
     EXPECT_EQ(uri->GetCount(), 1);
 
-    // A list takes its first URI, which the list itself then refuses: a URI token
-    // compares with the whole rule.
+    // A list takes its first URI and then refuses it: a URI compares with the whole rule.
     CSmartPtr<CAttributeCol> list = new CAttributeCol("", "urn:a urn:b", "");
     EXPECT_EQ(list->GetNamespace(), "urn:a");
     EXPECT_THROW(list->Add("x"), CVxInvalidNamespaceException);
@@ -233,8 +232,7 @@ TEST(Wildcards, ElementFromAnObjectIsWrittenPlainOrPastedWithItsDefaultNamespace
         [] { CSmartPtr<CElement> e = new CElement(static_cast<CXmlObjectBase *>(nullptr), "urn:d"); },
         "The object to build the element from is NULL"));
 
-    // Read without namespace processing, the declaration stays an attribute and becomes
-    // the default namespace of the copy, and of its clone.
+    // Read without namespaces, the declaration is an attribute; it becomes the default namespace.
     CSerializationContext noNamespaces;
     noNamespaces.SetSchemaType(SchemaType_NoNamespaces);
     CXmlDocument document(noNamespaces);
@@ -251,8 +249,7 @@ TEST(Wildcards, DepthOfReadingIsBounded)
     element->FromXml(Nested(2000).c_str());
     EXPECT_EQ(CanonicalXml(element->ToXml(false, false)), CanonicalXml(Nested(2000)));
     EXPECT_THROW(element->FromXml(Nested(2001).c_str()), CVxValidationException);
-    // A failed read leaves nothing behind that blocks the next one, and a read replaces
-    // all earlier content.
+    // A failed read does not block the next, and a read replaces all earlier content.
     element->FromXml("<e><e/></e>");
     EXPECT_EQ(element->ToXml(false, false), "<e><e/></e>");
 }
