@@ -37,8 +37,7 @@ TEST(Exceptions, PathJoinsTheMessageOnlyWhenNotEmptyAndFullMessageWalksTheChain)
 TEST(Exceptions, WrappedExceptionsKeepTheirKindConvertedOnesTakeANewOne)
 {
     const CVxInvalidNamespaceException refused("refused", "/r");
-    const CVxException level1("level 1", refused);
-    const CVxException level2("level 2", level1);
+    const CVxException level2("level 2", CVxException("level 1", refused));
     const CVxException copy(level2);
 
     const CVxException *inner = copy.GetInnerException()->GetInnerException();

@@ -104,14 +104,11 @@ TEST(Facets, EachTypeAppliesTheFacetsOfItsRow)
         {"5", ItemType_i8, Digits(5, 0), nullptr},
         // char has no row: it always fails.
         {"x", ItemType_char, Facets(), "Unknown type [char]."},
+        // A bad bound is the conversion's fault, not a facet failure.
+        {"5", ItemType_i4, Min("five"), "The value [five] can not be converted to a i4"},
     };
     for (const auto &c : cases)
         EXPECT_EQ(c.failure ? c.failure : "", Check(c.value, c.type, c.facets)) << c.value;
-
-    // A bad bound is the conversion's fault, not a facet failure.
-    const std::string badBound = Check("5", ItemType_i4, Min("five"));
-    EXPECT_NE("", badBound);
-    EXPECT_EQ(std::string::npos, badBound.find("Invalid Value for e"));
 
     EXPECT_THROW(CheckRestrictionValue("e", 'x', ItemType_char, CPrimitiveRestrictions()), CVxInvalidValueException);
     VxVariant object;

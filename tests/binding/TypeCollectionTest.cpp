@@ -190,18 +190,15 @@ TEST(TypeCollectionChecks, FailureOnAddOrReadLeavesListUnchangedWithoutEvents)
 {
     Recorder recorder;
     CSmartPtr<Open<Ci4Col>> col(new Open<Ci4Col>("10"));
-    col->AddEventListener(&recorder);
     col->Add(10);
-    recorder.events.clear();
+    col->AddEventListener(&recorder);
     EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { col->AddAt(7, 11); }, "Invalid Value for v [11]"));
     // Reading converts first, so a facet failure comes from Add, a bad text from the conversion.
     EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { Read(*col, "<v>9</v><v>12</v>"); }, "Invalid Value for v [12]"));
     EXPECT_THROW(Read(*col, "<v>x</v>"), CVxInvalidValueException);
-    EXPECT_EQ((Events{"Add", "AddComplete", "Change"}), recorder.events);
     EXPECT_EQ((std::vector<std::int32_t>{10, 9}), std::vector<std::int32_t>(col->begin(), col->end()));
 
     // Each date collection takes only its own date type.
-    recorder.events.clear();
     const CDateTime year(CDateTime::dt_gYear);
     const auto refused = [&](CdatetimeBaseCol &&dates, const std::string &type) {
         dates.AddEventListener(&recorder);
@@ -213,7 +210,8 @@ TEST(TypeCollectionChecks, FailureOnAddOrReadLeavesListUnchangedWithoutEvents)
     EXPECT_TRUE(refused(Open<CyearMonthCol>(), "dt_gYearMonth"));
     EXPECT_TRUE(refused(Open<CtimeCol>(), "dt_time"));
     EXPECT_TRUE(refused(Open<CmonthDayCol>(), "dt_gMonthDay"));
-    EXPECT_TRUE(recorder.events.empty());
+    // Of all the values above only the 9 got in.
+    EXPECT_EQ((Events{"Add", "AddComplete", "Change"}), recorder.events);
     // Date bounds are read as the collection's own type.
     Open<CdateCol> dates("2000-01-01");
     EXPECT_TRUE(Throws<CVxInvalidValueException>([&] { Read(dates, "<v>2000-01-02</v>"); },
