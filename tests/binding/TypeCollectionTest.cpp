@@ -92,7 +92,7 @@ template <class Col, XmlElementGroupType Group, class Entry>
 class CHolder final : public VxTest::CTestObject
 {
 public:
-    explicit CHolder(Rule rule = CWhitespaceUtils::WhitespaceRule_Collapse, const char *format = nullptr)
+    explicit CHolder(const char *format = nullptr, Rule rule = CWhitespaceUtils::WhitespaceRule_Collapse)
         : CTestObject(Tables(), 1), m_rule(rule), m_format(format)
     {
         Init();
@@ -235,10 +235,9 @@ TEST(TypeCollectionOptions, CountFormatOverrideAndWhitespaceRule)
         holder.FromXml((std::string("<h xmlns='urn:t'>") + items + "</h>").c_str());
         return holder.ToXml(false, false, EOLType_LF, plain);
     };
-    const Rule collapse = CWhitespaceUtils::WhitespaceRule_Collapse;
-    CSmartPtr<CSequenceHolder<Cr8Col>> reals(new CSequenceHolder<Cr8Col>(collapse, "%.2f"));
+    CSmartPtr<CSequenceHolder<Cr8Col>> reals(new CSequenceHolder<Cr8Col>("%.2f"));
     CSmartPtr<CSequenceHolder<CstringCol>> kept(
-        new CSequenceHolder<CstringCol>(CWhitespaceUtils::WhitespaceRule_Preserve));
+        new CSequenceHolder<CstringCol>(nullptr, CWhitespaceUtils::WhitespaceRule_Preserve));
     EXPECT_EQ("<h xmlns=\"urn:t\"><v>1.50</v></h>", roundTrip(*reals, "<v> 1.5 </v>"));
     EXPECT_EQ("<h xmlns=\"urn:t\"><v> a  b </v></h>", roundTrip(*kept, "<v> a  b </v>"));
 }
