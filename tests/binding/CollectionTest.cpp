@@ -16,11 +16,8 @@ namespace {
 class Item : public VxTest::CPlainObject
 {
 public:
-    explicit Item(std::string name, int *destroyed = nullptr) : CPlainObject(destroyed), m_name(std::move(name)) {}
-    const std::string &Name() const { return m_name; }
-
-private:
-    std::string m_name;
+    explicit Item(std::string text, int *destroyed = nullptr) : CPlainObject(destroyed), name(std::move(text)) {}
+    const std::string name;
 };
 
 // Opens the protected list operations, as a generated collection's facade would.
@@ -38,7 +35,7 @@ public:
     {
         std::string names;
         for (auto it = begin<Item>(); it != end<Item>(); ++it)
-            names += (*it)->Name();
+            names += (*it)->name;
         return names;
     }
 
@@ -59,7 +56,7 @@ public:
         static const char *names[] = {"Change", "Add", "AddComplete", "Remove", "RemoveComplete"};
         std::string entry = names[type];
         if (type == MsgType_CollectionAdd || type == MsgType_CollectionAddComplete)
-            entry += ":" + static_cast<Item *>(static_cast<CXmlObjectBase *>(data))->Name();
+            entry += ":" + static_cast<Item *>(static_cast<CXmlObjectBase *>(data))->name;
         else if (type != MsgType_CollectionChange)
             entry += data ? ":" + std::to_string(*static_cast<int *>(data)) : ":null";
         events.push_back(entry);

@@ -31,7 +31,6 @@ TEST(Exceptions, PathJoinsTheMessageOnlyWhenNotEmptyAndFullMessageWalksTheChain)
     const CVxException outer("what was being done", middle);
     EXPECT_EQ(outer.GetFullMessage(), "what was being done\nm\nPath: p\nwhat went wrong");
     EXPECT_EQ(outer.GetPath(), "");
-    EXPECT_EQ(outer.GetInnerException()->GetInnerException()->GetInnerException(), nullptr);
 }
 
 TEST(Exceptions, WrappedExceptionsKeepTheirKindConvertedOnesTakeANewOne)

@@ -74,8 +74,10 @@ TEST(Facets, EachTypeAppliesTheFacetsOfItsRow)
         {"123456789012345678901", ItemType_integer, MaxEx("123456789012345678901"),
          "Invalid Value for e [123456789012345678901]."},
         {"---05", ItemType_day, Min("---06"), "Invalid Value for e [5]"},
+        {"--07", ItemType_month, Max("--06"), "Invalid Value for e [7]"},
         {"1999", ItemType_year, MinEx("1999"), "Invalid Value for e [1999]"},
         {"2001-02-03", ItemType_date, Max("2001-02-02"), "Invalid Value for e [2001-02-03]."},
+        {"10:00:00", ItemType_time, MinEx("10:00:00"), "Invalid Value for e [10:00:00]."},
         {"P1Y", ItemType_duration, MaxEx("P12M"), "Invalid Value for e [P1Y]."},
         {"true", ItemType_boolean, Max("false"), nullptr},
         // A zoned bound within 14 hours of an unzoned value is indeterminate: it passes every bound.

@@ -222,11 +222,11 @@ TEST(TypeCollectionOptions, CountFormatOverrideAndWhitespaceRule)
 {
     // No writer: the count is checked before anything is written, and an empty list writes nothing.
     CSmartPtr<Open<Ci4Col>> required(new Open<Ci4Col>("", 1));
-    CSerializationContext lenient;
-    EXPECT_TRUE(Throws<CVxValidationException>([&] { required->ToXml_Int(nullptr, false, "urn:t", lenient, false); },
+    CSerializationContext context;
+    EXPECT_TRUE(Throws<CVxValidationException>([&] { required->ToXml_Int(nullptr, false, "urn:t", context, false); },
                                                "The Minimum number of [v] elements allowed in this collection is 1"));
-    lenient.SetIgnoreInvalidCollectionCounts(true);
-    required->ToXml_Int(nullptr, false, "urn:t", lenient, false);
+    context.SetIgnoreInvalidCollectionCounts(true);
+    required->ToXml_Int(nullptr, false, "urn:t", context, false);
 
     // Through a generated class: the format override on writing, the whitespace rule on reading.
     CSerializationContext plain;
