@@ -236,8 +236,10 @@ TEST(TypeCollectionOptions, CountFormatOverrideAndWhitespaceRule)
         return holder.ToXml(false, false, EOLType_LF, plain);
     };
     CSmartPtr<CSequenceHolder<Cr8Col>> reals(new CSequenceHolder<Cr8Col>("%.2f"));
+    CSmartPtr<CSequenceHolder<CdecimalCol>> decimals(new CSequenceHolder<CdecimalCol>("3"));
     CSmartPtr<CSequenceHolder<CstringCol>> kept(
         new CSequenceHolder<CstringCol>(nullptr, CWhitespaceUtils::WhitespaceRule_Preserve));
     EXPECT_EQ("<h xmlns=\"urn:t\"><v>1.50</v></h>", roundTrip(*reals, "<v> 1.5 </v>"));
+    EXPECT_EQ("<h xmlns=\"urn:t\"><v>1.500</v></h>", roundTrip(*decimals, "<v>1.5</v>"));
     EXPECT_EQ("<h xmlns=\"urn:t\"><v> a  b </v></h>", roundTrip(*kept, "<v> a  b </v>"));
 }
