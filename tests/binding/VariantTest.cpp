@@ -1,27 +1,17 @@
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <limits>
 #include <string>
 
-#include "ExceptionAssert.h"
-#include "BinaryData.h"
 #include "Conversions.h"
 #include "DateTime.h"
 #include "Decimal.h"
-#include "Exceptions.h"
-#include "Variant.h"
-#include "XmlObjectBase.h"
+#include "ExceptionAssert.h"
 #include "PlainObject.h"
+#include "Variant.h"
 
 using namespace VxXmlLib16;
 using VxTest::Throws;
-
-namespace {
-
-using Counted = VxTest::CPlainObject;
-
-} // namespace
 
 TEST(Variant, StatesInvalidValidNil)
 {
@@ -32,24 +22,19 @@ TEST(Variant, StatesInvalidValidNil)
     EXPECT_EQ(ItemType_Invalid, v.GetTypeAsEnum());
     v.SetI4(5); // Clear on an invalid variant leaves the nil flag: kept as it is
     EXPECT_TRUE(v.IsNil());
-    EXPECT_EQ(5, v.GetI4());
 
     VxVariant s;
     s.SetString("text");
     s.SetNil();
     EXPECT_TRUE(s.IsNil());
-    EXPECT_TRUE(s.IsValid());
     EXPECT_EQ(ItemType_string, s.GetTypeAsEnum());
     EXPECT_EQ("", s.GetString()); // the string is gone
     s.Clear();
     EXPECT_FALSE(s.IsNil());
     EXPECT_FALSE(s.IsValid());
-    s.SetBoolean(true);
-    s.SetInvalid();
-    EXPECT_FALSE(s.IsValid());
 }
 
-TEST(Variant, AssignmentCopiesDeeplyAndSelfAssignmentClears)
+TEST(Variant, CopiesAreDeepOrCountedAndSelfAssignmentClears)
 {
     VxVariant s;
     s.SetString("abc");
@@ -67,24 +52,13 @@ TEST(Variant, AssignmentCopiesDeeplyAndSelfAssignmentClears)
     EXPECT_TRUE(nilCopy.IsNil());
     EXPECT_EQ(ItemType_date, nilCopy.GetTypeAsEnum());
 
-    VxVariant r8;
-    r8.SetR8(2.5);
-    VxVariant r8Copy;
-    r8Copy = r8;
-    EXPECT_EQ(2.5, r8Copy.GetR8());
-}
-
-TEST(Variant, CountedReferences)
-{
     int destroyed = 0;
     {
         VxVariant v;
         v.SetXmlObject(nullptr);
-        EXPECT_EQ(ItemType_XmlObject, v.GetTypeAsEnum());
-        EXPECT_EQ(nullptr, v.GetXmlObject());
-        v.Clear();
+        v.Clear(); // releases nothing
 
-        Counted *object = new Counted(&destroyed);
+        auto *object = new VxTest::CPlainObject(&destroyed);
         v.SetXmlObject(object);
         VxVariant other(v);
         EXPECT_EQ(3, object->AddRef()); // two variants hold it
@@ -96,31 +70,21 @@ TEST(Variant, CountedReferences)
     EXPECT_EQ(1, destroyed);
 }
 
-TEST(Variant, TypeNamesAndTheirFailures)
+TEST(Variant, TypeNamesAndTextConversions)
 {
     VxVariant v;
-    v.SetDecimal(CDecimal("1.5"));
-    EXPECT_EQ("decimal", v.GetType());
     v.SetUI2(3);
     EXPECT_EQ("ui2", v.GetType());
     v.SetXmlObject(nullptr);
     EXPECT_TRUE(Throws<CVxException>([&] { v.GetType(); }, "Invalid Type 27"));
     EXPECT_TRUE(Throws<CVxException>([&] { v.ToString(nullptr); }, "Invalid Type 27 to convert to string"));
-    v.Clear();
-    EXPECT_TRUE(Throws<CVxException>([&] { v.GetType(); }, "Invalid Type 0"));
     // The message names the variant's own type, not the one asked for.
     v.SetI4(1);
     EXPECT_TRUE(Throws<CVxException>(
         [&] { v.FromString("1", ItemType_XmlObject, CWhitespaceUtils::WhitespaceRule_Collapse); },
         "Invalid Type 5 to convert to string"));
-}
 
-TEST(Variant, FromStringAndToString)
-{
-    VxVariant v;
     v.FromString(" 42 ", ItemType_i4, CWhitespaceUtils::WhitespaceRule_Collapse);
-    EXPECT_EQ(ItemType_i4, v.GetTypeAsEnum());
-    EXPECT_EQ(42, v.GetI4());
     EXPECT_EQ("42", v.ToString("%5.2f")); // the format is ignored for integers
 
     // A failing conversion leaves the old value.

@@ -4,7 +4,6 @@
 #include <memory>
 #include <string>
 
-#include "BinaryData.h"
 #include "CanonicalXml.h"
 #include "ExceptionAssert.h"
 #include "OrdersDocument.h"
@@ -19,68 +18,45 @@ using VxTest::Throws;
 namespace {
 
 // Opens the protected reading operations, as the metadata of generated classes uses them.
-class OpenElement : public CElement
+template <class Base>
+class Open : public Base
 {
 public:
-    using CElement::CElement;
-    using CElement::CopyXmlElement;
-    using CElement::FromXml_Int;
+    using Base::Base;
+    using Base::FromXml_Int;
 };
 
-class OpenElementCol : public CElementCol
+class OpenElement : public Open<CElement>
 {
 public:
-    using CElementCol::CElementCol;
-    using CElementCol::FromXml_Int;
+    using Open::Open;
+    using CElement::CopyXmlElement;
+};
+
+class OpenElementCol : public Open<CElementCol>
+{
+public:
+    using Open::Open;
     using CElementCol::FromXmlLockElementName_Int;
 };
 
-class OpenAttributeCol : public CAttributeCol
-{
-public:
-    using CAttributeCol::CAttributeCol;
-    using CAttributeCol::FromXml_Int;
-};
-
-class OpenAttribute : public CAttribute
-{
-public:
-    using CAttribute::CAttribute;
-    using CAttribute::FromXml_Int;
-};
-
-// An object whose stream form is its text, recording how it was asked for it.
-class StreamedElement : public CElement
-{
-public:
-    using CElement::CElement;
-    CBinaryData ToXmlStream(bool docHeader, bool formatted, XmlEncoding encoding, EOLType eol,
-                            const CSerializationContext &context, CompressionType compression) const override
-    {
-        request = FormatString("%d %d %d %d %d [%s]", docHeader, formatted, encoding, eol, compression,
-                               context.GetDefaultNamespaceURI().c_str());
-        return CBinaryData(ToXml(docHeader, formatted, eol, context).c_str());
-    }
-    mutable std::string request;
-};
-
-std::string RoundTrip(const std::string &document, bool formatted)
-{
-    CSmartPtr<CElement> element = new CElement("placeholder");
-    element->FromXml(document.c_str());
-    return element->ToXml(false, formatted);
-}
-
-// SetNamespaceRestrictions throws a pointer; this owns what arrives.
+// SetNamespaceRestrictions throws a pointer; this takes it over and gives its full message.
 template <class Action>
-std::unique_ptr<CVxInvalidNamespaceException> PointerThrown(Action &&action)
+std::string PointerThrown(Action &&action)
 {
     try {
         action();
     } catch (CVxInvalidNamespaceException *thrown) {
-        return std::unique_ptr<CVxInvalidNamespaceException>(thrown);
+        const std::unique_ptr<CVxInvalidNamespaceException> owned(thrown);
+        return owned->GetFullMessage();
     }
-    return nullptr;
+    return "nothing thrown by pointer";
+}
+
+// Elements "e", each inside the one before.
+std::string Nested(int depth)
+{
+    return depth ? "<e>" + Nested(depth - 1) + "</e>" : std::string();
 }
 
 const char *const kNamespaceHeavy =
@@ -117,7 +93,7 @@ TEST(Wildcards, ConstructionRefusesWhatTheRulesRefuse)
         EXPECT_TRUE(Throws<CVxInvalidNamespaceException>(refusal.action, refusal.message));
 }
 
-TEST(Wildcards, ElementCollectionKeepsAnyRuleAndTakesKeywordAsDefaultNamespace)
+TEST(Wildcards, CollectionsTakeTheirNamespaceFromTheRule)
 {
     CSmartPtr<CElementCol> other = new CElementCol("", "##other", "urn:t", 1, 1);
     EXPECT_EQ(other->Add("x")->GetNamespace(), "##other");
@@ -125,63 +101,29 @@ TEST(Wildcards, ElementCollectionKeepsAnyRuleAndTakesKeywordAsDefaultNamespace)
     EXPECT_EQ(other->Add("y", "urn:t")->GetNamespace(), "urn:t");
     // And the limits given were not kept: three items write without complaint.
     other->Add("z", "urn:u");
-    EXPECT_EQ(other->GetCount(), 3);
-    CSerializationContext context;
-    EXPECT_NO_THROW(other->ValidateCount(context));
+    EXPECT_NO_THROW(other->ValidateCount(CSerializationContext()));
 
     CSmartPtr<CElementCol> plain = new CElementCol("", "urn:x", "", 0, -1);
     EXPECT_TRUE(Throws<CVxInvalidStateException>([&] { plain->Add("x"); },
                                                  "A Namespace has not been set for this Collection"));
     EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { plain->Add(static_cast<CElement *>(nullptr)); },
                                                  "A NULL item can not be added to the collection"));
-    EXPECT_EQ(plain->GetCount(), 0);
-}
 
-TEST(Wildcards, AttributeCollectionNamespaceComesFromAUriRule)
-{
+    // An attribute collection takes its namespace from a URI rule.
     CSmartPtr<CAttributeCol> uri = new CAttributeCol("", "urn:a", "");
-    EXPECT_EQ(uri->GetNamespace(), "urn:a");
     EXPECT_EQ(uri->Add("x")->GetNamespace(), "urn:a");
-    EXPECT_EQ(uri->Add("e", "v", "")->GetNamespace(), "");
     EXPECT_TRUE(Throws<CVxInvalidNamespaceException>(
         [&] { uri->Add("y", "v", "urn:c"); },
         "Invalid namespace [urn:c]. The namespace must be one of [urn:a] where the target namespace is []."));
     CSmartPtr<CAttribute> refused = new CAttribute("z", "v", "urn:c");
     EXPECT_THROW(uri->Add(refused), CVxInvalidNamespaceException);
-    EXPECT_EQ(uri->GetCount(), 2);
+    EXPECT_EQ(uri->GetCount(), 1);
 
-    // A list takes its first URI, which the list itself then refuses: a URI token
-    // compares with the whole rule.
+    // A list takes its first URI and then refuses it: a URI compares with the whole rule.
     CSmartPtr<CAttributeCol> list = new CAttributeCol("", "urn:a urn:b", "");
     EXPECT_EQ(list->GetNamespace(), "urn:a");
     EXPECT_THROW(list->Add("x"), CVxInvalidNamespaceException);
     EXPECT_EQ(CSmartPtr<CAttributeCol>(new CAttributeCol("", "##other", ""))->GetNamespace(), "");
-}
-
-TEST(Wildcards, WritesNameAttributesChildrenThenText)
-{
-    CSmartPtr<CElement> element = new CElement("a");
-    element->SetText("t&x");
-    element->GetAttributes()->Add("x", "1");
-    element->GetAttributes()->Add("y", "2", "urn:n");
-    element->GetChildElements()->Add(new CElement("b", "urn:n"));
-    EXPECT_EQ(element->ToXml(false, false), "<a x=\"1\" xmlns:AA=\"urn:n\" AA:y=\"2\"><AA:b/>t&amp;x</a>");
-    EXPECT_EQ(CSmartPtr<CElement>(new CElement("a"))->ToXml(false, false), "<a/>");
-}
-
-TEST(Wildcards, ReadingTakesTheTreeAndReplacesEarlierContent)
-{
-    CSmartPtr<CElement> element = new CElement("old");
-    element->GetAttributes()->Add("stale", "1");
-    element->GetChildElements()->Add(new CElement("stale"));
-    element->FromXml("<r xmlns='urn:r' a='1'><c xmlns='urn:c'>x</c><d/>text</r>");
-
-    EXPECT_EQ(element->GetName() + element->GetNamespace() + element->GetText(), "rurn:rtext");
-    EXPECT_EQ(element->GetAttributes()->GetCount(), 1);
-    CSmartPtr<CElementCol> children = element->GetChildElements();
-    ASSERT_EQ(children->GetCount(), 2);
-    EXPECT_EQ(children->Item(0)->GetNamespace() + children->Item(0)->GetText(), "urn:cx");
-    EXPECT_EQ(children->Item(1)->GetNamespace(), "urn:r");
 }
 
 TEST(Wildcards, ReadingRefusals)
@@ -193,14 +135,11 @@ TEST(Wildcards, ReadingRefusals)
     const CSerializationContext &context = CSerializationContext::GetDefaultContext();
 
     // An attribute the rule refuses fails the element with its path.
-    CSmartPtr<OpenAttributeCol> attributes = new OpenAttributeCol("", "##local", "");
+    CSmartPtr<Open<CAttributeCol>> attributes = new Open<CAttributeCol>("", "##local", "");
     EXPECT_TRUE(Throws<CVxInvalidNamespaceException>(
         [&] { attributes->FromXml_Int(first, nullptr, context, false); },
         "Invalid Attribute [x]. The attributes namespace is Inappropriate.\nPath: /r/a[1]"));
-    CSmartPtr<OpenAttributeCol> any = new OpenAttributeCol("", "##any", "");
-    EXPECT_EQ(any->FromXml_Int(first, first, context, false), first);
-    EXPECT_EQ(any->GetCount(), 2);
-    CSmartPtr<OpenAttribute> attribute = new OpenAttribute("x", "", "");
+    CSmartPtr<Open<CAttribute>> attribute = new Open<CAttribute>("x", "", "");
     EXPECT_TRUE(Throws<CVxException>([&] { attribute->FromXml_Int(first, nullptr, context, false); },
                                      "This should be done by the collection"));
 
@@ -213,44 +152,33 @@ TEST(Wildcards, ReadingRefusals)
     CSmartPtr<OpenElementCol> named = new OpenElementCol("", "##any", "", 0, -1);
     CXmlElement *rest = named->FromXmlLockElementName_Int("a", "", root, first, context);
     EXPECT_EQ(named->GetCount(), 2);
-    ASSERT_NE(rest, nullptr);
-    EXPECT_EQ(rest->GetLocalName(), "b");
-    EXPECT_EQ(named->FromXml_Int(root, rest, context, false), nullptr);
-    EXPECT_EQ(named->GetCount(), 3);
+    EXPECT_EQ(rest, first->GetNextSiblingElement()->GetNextSiblingElement());
 }
 
-TEST(Wildcards, RoundTripKeepsElementsAttributesNamespacesAndText)
+TEST(Wildcards, RoundTripAndCloneKeepElementsAttributesNamespacesAndText)
 {
     const std::string documents[] = {kNamespaceHeavy, VxTest::OrdersDocument(40, 7, false),
                                      VxTest::OrdersDocument(15, 11, true)};
     for (const std::string &document : documents) {
         const std::string expected = CanonicalXml(document);
         ASSERT_EQ(expected.find("error"), std::string::npos) << expected;
-        EXPECT_EQ(CanonicalXml(RoundTrip(document, false)), expected);
-        EXPECT_EQ(CanonicalXml(RoundTrip(document, true)), expected);
+        CSmartPtr<CElement> element = new CElement("placeholder");
+        element->FromXml(document.c_str());
+        EXPECT_EQ(CanonicalXml(element->ToXml(false, false)), expected);
+        EXPECT_EQ(CanonicalXml(element->ToXml(false, true)), expected);
+        // The entry point that reads another object's rendering.
+        CSmartPtr<CElement> target = new CElement("t");
+        target->FromXmlElement(element.operator->());
+        EXPECT_EQ(CanonicalXml(target->ToXml(false, false)), expected);
+
+        // A clone is equal and shares nothing.
+        CSmartPtr<CElement> copy = element->Clone();
+        EXPECT_EQ(copy->ToXml(false, false), element->ToXml(false, false));
+        copy->GetChildElements()->Item(0)->SetText("changed");
+        copy->GetAttributes()->Add("added", "1");
+        copy->GetChildElements()->Remove(1);
+        EXPECT_EQ(CanonicalXml(element->ToXml(false, false)), expected);
     }
-}
-
-TEST(Wildcards, FromXmlElementReadsTheRenderedElement)
-{
-    CSmartPtr<CElement> source = new CElement("s");
-    source->FromXml(kNamespaceHeavy);
-    CSmartPtr<CElement> target = new CElement("t");
-    target->FromXmlElement(source.operator->());
-    EXPECT_EQ(CanonicalXml(target->ToXml(false, false)), CanonicalXml(kNamespaceHeavy));
-}
-
-TEST(Wildcards, CloneIsIndependentAndEqual)
-{
-    CSmartPtr<CElement> original = new CElement("o");
-    original->FromXml(kNamespaceHeavy);
-    CSmartPtr<CElement> copy = original->Clone();
-    EXPECT_EQ(copy->ToXml(false, false), original->ToXml(false, false));
-
-    copy->GetChildElements()->Item(0)->SetText("changed");
-    copy->GetAttributes()->Item(0)->SetValue("changed");
-    copy->GetChildElements()->Remove(1);
-    EXPECT_EQ(CanonicalXml(original->ToXml(false, false)), CanonicalXml(kNamespaceHeavy));
 }
 
 TEST(Wildcards, NamespaceRestrictionsThrowAPointerForTheElementsOwnNamespace)
@@ -259,14 +187,8 @@ TEST(Wildcards, NamespaceRestrictionsThrowAPointerForTheElementsOwnNamespace)
     element->GetAttributes()->Add("x", "1", "urn:x");
     element->GetChildElements()->Add("b", "urn:b");
 
-    std::unique_ptr<CVxInvalidNamespaceException> own =
-        PointerThrown([&] { element->SetNamespaceRestrictions("##other", "urn:a"); });
-    ASSERT_TRUE(own);
-    EXPECT_EQ(own->GetMessage(), "The namespace a in the class urn:a is invalid against restriction ##other");
-    EXPECT_EQ(own->GetPath(), "");
-    ASSERT_NE(own->GetInnerException(), nullptr);
-    EXPECT_EQ(typeid(*own->GetInnerException()), typeid(CVxInvalidNamespaceException));
-    EXPECT_EQ(own->GetInnerException()->GetMessage(),
+    EXPECT_EQ(PointerThrown([&] { element->SetNamespaceRestrictions("##other", "urn:a"); }),
+              "The namespace a in the class urn:a is invalid against restriction ##other\n"
               "Invalid namespace [urn:a]. The namespace must be one of [##other] where the target namespace is "
               "[urn:a].");
 
@@ -274,10 +196,9 @@ TEST(Wildcards, NamespaceRestrictionsThrowAPointerForTheElementsOwnNamespace)
     EXPECT_TRUE(Throws<CVxInvalidNamespaceException>(
         [&] { element->SetNamespaceRestrictions("##other", "urn:x"); },
         "Invalid namespace [urn:x]. The namespace must be one of [##other] where the target namespace is [urn:x]."));
-    std::unique_ptr<CVxInvalidNamespaceException> child =
-        PointerThrown([&] { element->SetNamespaceRestrictions("##other", "urn:b"); });
-    ASSERT_TRUE(child);
-    EXPECT_EQ(child->GetMessage(), "The namespace b in the class urn:b is invalid against restriction ##other");
+    EXPECT_EQ(PointerThrown([&] { element->SetNamespaceRestrictions("##other", "urn:b"); }).find(
+                  "The namespace b in the class urn:b is invalid against restriction ##other\n"),
+              0u);
 
     // The rule is only checked: the element still reads any namespace afterwards.
     EXPECT_NO_THROW(element->SetNamespaceRestrictions("##any", ""));
@@ -285,83 +206,50 @@ TEST(Wildcards, NamespaceRestrictionsThrowAPointerForTheElementsOwnNamespace)
     EXPECT_EQ(element->GetNamespace(), "urn:z");
 }
 
-TEST(Wildcards, ElementWithDefaultNamespaceIsPastedWithItsOwnDeclaration)
+TEST(Wildcards, ElementFromAnObjectIsWrittenPlainOrPastedWithItsDefaultNamespace)
 {
-    // Read without namespace processing, the declaration stays an attribute and becomes
-    // the element's default namespace.
-    CSerializationContext noNamespaces;
-    noNamespaces.SetSchemaType(SchemaType_NoNamespaces);
-    CXmlDocument document(noNamespaces);
-    document.LoadXml("<r xmlns='urn:d' k='v'><c>t</c></r>");
-    CSmartPtr<OpenElement> pasted = new OpenElement("r");
-    pasted->CopyXmlElement(document.GetDocumentElement());
-    EXPECT_EQ(pasted->GetAttributes()->GetCount(), 2);
-
+    CSmartPtr<CElement> object = new CElement("r", "urn:d");
+    object->GetAttributes()->Add("u", "1", "");
+    object->GetAttributes()->Add("k", "v");
+    object->GetChildElements()->Add("c")->SetText("t");
+    CSmartPtr<CElement> built = new CElement(object.operator->(), "urn:d");
+    EXPECT_EQ(built->GetAttributes()->GetCount(), 2);
     CSmartPtr<CElement> parent = new CElement("p", "urn:p");
-    parent->GetChildElements()->Add(pasted.operator->());
+    parent->GetChildElements()->Add(built.operator->());
     parent->GetChildElements()->Add("after", "urn:p");
+    // The pasted subtree leaves its attributes out.
     EXPECT_EQ(parent->ToXml(false, false),
               "<AA:p xmlns:AA=\"urn:p\"><r xmlns=\"urn:d\"><c>t</c></r><AA:after/></AA:p>");
     EXPECT_EQ(CanonicalXml(parent->ToXml(true, true)),
               "0 urn:p|p\n1 urn:d|r\n2 urn:d|c [t]\n1 urn:p|after []\n");
-    // A clone keeps the default namespace.
-    EXPECT_EQ(pasted->Clone()->ToXml(false, false), "<r xmlns=\"urn:d\"><c>t</c></r>");
-}
 
-TEST(Wildcards, ElementBuiltFromAnObjectPastesItsSubtree)
-{
-    CSmartPtr<StreamedElement> object = new StreamedElement("r", "urn:d");
-    object->GetChildElements()->Add("c")->SetText("t");
-    object->GetAttributes()->Add("k", "v");
-    CSmartPtr<CElement> built = new CElement(object.operator->(), "urn:d");
-    EXPECT_EQ(object->request, "0 0 1 1 0 [urn:d]");
-    EXPECT_EQ(built->GetName(), "r");
-    EXPECT_EQ(built->GetAttributes()->GetCount(), 1);
-
-    CSmartPtr<CElement> parent = new CElement("p");
-    parent->GetChildElements()->Add(built.operator->());
-    EXPECT_EQ(parent->ToXml(false, false), "<p><r xmlns=\"urn:d\"><c>t</c></r></p>");
-
-    // Without a default namespace the element is an ordinary one.
+    // Without a default namespace the element is an ordinary one: name, attributes, children, then text.
     CSmartPtr<CElement> plain = new CElement(object.operator->(), nullptr);
-    EXPECT_EQ(object->request, "0 0 1 1 0 []");
-    EXPECT_EQ(plain->ToXml(false, false), "<AA:r xmlns:AA=\"urn:d\" AA:k=\"v\"><AA:c>t</AA:c></AA:r>");
-    EXPECT_TRUE(Throws<CVxInvalidParamException>([] { CSmartPtr<CElement> e = new CElement(static_cast<CXmlObjectBase *>(nullptr), "urn:d"); },
-                                                 "The object to build the element from is NULL"));
-}
+    plain->SetText("x&y");
+    EXPECT_EQ(plain->ToXml(false, false),
+              "<AA:r xmlns:AA=\"urn:d\" u=\"1\" AA:k=\"v\"><AA:c>t</AA:c>x&amp;y</AA:r>");
+    EXPECT_TRUE(Throws<CVxInvalidParamException>(
+        [] { CSmartPtr<CElement> e = new CElement(static_cast<CXmlObjectBase *>(nullptr), "urn:d"); },
+        "The object to build the element from is NULL"));
 
-TEST(SerializationContextRootAttributes, CreatedOnceAndSharedByLaterCopies)
-{
-    CSerializationContext context;
-    EXPECT_EQ(context.FindAdditionalRootAttributes(), nullptr);
-    CSmartPtr<CAttributeCol> attributes = context.GetAdditionalRootAttributes();
-    EXPECT_EQ(static_cast<CAttributeCol *>(context.GetAdditionalRootAttributes()), attributes);
-    EXPECT_EQ(context.FindAdditionalRootAttributes(), attributes);
-    EXPECT_EQ(attributes->GetNamespace(), "");
-
-    const CSerializationContext copy(context);
-    attributes->Add("schemaLocation", "urn:x x.xsd", "http://www.w3.org/2001/XMLSchema-instance");
-    EXPECT_EQ(copy.GetAdditionalRootAttributes()->GetCount(), 1);
-    CSerializationContext assigned;
-    assigned = copy;
-    EXPECT_EQ(assigned.FindAdditionalRootAttributes(), attributes);
+    // Read without namespaces, the declaration is an attribute; it becomes the default namespace.
+    CSerializationContext noNamespaces;
+    noNamespaces.SetSchemaType(SchemaType_NoNamespaces);
+    CXmlDocument document(noNamespaces);
+    document.LoadXml("<r xmlns='urn:d'><c>t</c></r>");
+    CSmartPtr<OpenElement> copied = new OpenElement("x");
+    copied->CopyXmlElement(document.GetDocumentElement());
+    EXPECT_EQ(copied->Clone()->ToXml(false, false), "<r xmlns=\"urn:d\"><c>t</c></r>");
 }
 
 TEST(Wildcards, DepthOfReadingIsBounded)
 {
-    const auto nested = [](int depth) {
-        std::string text;
-        for (int i = 0; i < depth; ++i)
-            text += "<e>";
-        for (int i = 0; i < depth; ++i)
-            text += "</e>";
-        return text;
-    };
     CSmartPtr<CElement> element = new CElement("e");
-    element->FromXml(nested(2000).c_str());
-    EXPECT_EQ(CanonicalXml(element->ToXml(false, false)), CanonicalXml(nested(2000)));
-    EXPECT_THROW(element->FromXml(nested(2001).c_str()), CVxValidationException);
-    // A failed read leaves nothing behind that blocks the next one.
+    element->GetAttributes()->Add("stale", "1");
+    element->FromXml(Nested(2000).c_str());
+    EXPECT_EQ(CanonicalXml(element->ToXml(false, false)), CanonicalXml(Nested(2000)));
+    EXPECT_THROW(element->FromXml(Nested(2001).c_str()), CVxValidationException);
+    // A failed read does not block the next, and a read replaces all earlier content.
     element->FromXml("<e><e/></e>");
     EXPECT_EQ(element->ToXml(false, false), "<e><e/></e>");
 }
