@@ -5,14 +5,14 @@
 #include <cerrno>
 #include <fstream>
 #include <string>
+#include <vector>
 
-#include "BinaryData.h"
 #include "ExceptionAssert.h"
+#include "LinesOrder.h"
 #include "Exceptions.h"
 #include "SerializationContext.h"
 #include "XmlDocument.h"
 #include "XmlObjectBase.h"
-#include "PlainObject.h"
 
 using namespace VxXmlLib16;
 using VxTest::Throws;
@@ -158,45 +158,22 @@ TEST(XmlDocumentFileTest, DeepTreesLoadAndDieWithoutRecursion)
     EXPECT_EQ(deepest->GetXPath().size(), 2u * depth);
 }
 
-namespace {
-
-// Records what the entry points hand over.
-class Probe final : public VxTest::CPlainObject
+TEST(XmlDocumentFileTest, EntryPointsHandTheRootsChildrenOver)
 {
-public:
-    std::string seen;
-
-protected:
-    CXmlElement *FromXml_Int(CXmlElement *element, CXmlElement *firstChild, const CSerializationContext &,
-                             bool isChoiceMember) override
-    {
-        seen = element->GetLocalName() + "/" + (firstChild ? firstChild->GetLocalName() : "-") +
-               (isChoiceMember ? "!" : "");
-        return nullptr;
-    }
-};
-
-} // namespace
-
-TEST(XmlDocumentFileTest, EntryPointsHandTheRootAndItsFirstChildOver)
-{
-    CSmartPtr<Probe> probe(new Probe);
-    probe->FromXml("<a>t<b/><c/></a>");
-    EXPECT_EQ(probe->seen, "a/b");
-    probe->FromXml(L"<w/>");
-    EXPECT_EQ(probe->seen, "w/-");
-    unsigned char bytes[] = "<s><t/></s>";
-    probe->FromXmlStream(bytes, sizeof bytes - 1);
-    EXPECT_EQ(probe->seen, "s/t");
-    probe->FromXmlStream(CBinaryData("<u><v/></u>"));
-    EXPECT_EQ(probe->seen, "u/v");
-    probe->FromXmlFile(WriteFile("entry.xml", "<f><g/></f>").c_str());
-    EXPECT_EQ(probe->seen, "f/g");
+    using Lines = std::vector<std::string>;
+    VxTest::LinesOrder order(0);
+    order.FromXml("<o>t<l>a</l><l>b</l></o>");
+    EXPECT_EQ(order.ReadLines(), (Lines{"a", "b"}));
+    order.FromXml(L"<o><l>w</l></o>");
+    EXPECT_EQ(order.ReadLines(), Lines{"w"});
+    unsigned char bytes[] = "<o><l>s</l></o>";
+    order.FromXmlStream(bytes, sizeof bytes - 1);
+    EXPECT_EQ(order.ReadLines(), Lines{"s"});
     CXmlDocument document;
-    document.LoadXml("<x><y/></x>");
-    probe->FromXmlElement(document.GetDocumentElement()->GetFirstElement());
-    EXPECT_EQ(probe->seen, "y/-");
+    document.LoadXml("<x><o><l>e</l></o></x>");
+    order.FromXmlElement(document.GetDocumentElement()->GetFirstElement());
+    EXPECT_EQ(order.ReadLines(), Lines{"e"});
     // A parse failure leaves the object untouched.
-    EXPECT_THROW(probe->FromXml("<a>"), CVxException);
-    EXPECT_EQ(probe->seen, "y/-");
+    EXPECT_THROW(order.FromXml("<o><l>f</l>"), CVxException);
+    EXPECT_EQ(order.ReadLines(), Lines{"e"});
 }
