@@ -8,6 +8,7 @@
 #include "Exceptions.h"
 #include "VxZip.h"
 #include "XmlDocument.h"
+#include "LinesOrder.h"
 #include "TestSupport.h"
 
 using namespace VxXmlLib16;
@@ -15,14 +16,6 @@ using VxTest::Throws;
 using VxTest::Bytes;
 
 namespace {
-
-std::string Document(int orders)
-{
-    std::string text = "<?xml version=\"1.0\"?>\n<orders>\n";
-    for (int i = 0; i < orders; ++i)
-        text += "<order id=\"" + std::to_string(i) + "\"><qty>3</qty></order>\n";
-    return text + "</orders>";
-}
 
 CBinaryData Compressed(const std::string &text, CompressionType type)
 {
@@ -55,7 +48,7 @@ void LoadStream(const CBinaryData &data)
 
 TEST(VxZip, BothFormatsCompressAtLevelOneAndExpandByContent)
 {
-    const std::string text = Document(2000);
+    const std::string text = VxTest::LinesOrder(2000).ToXml();
     const CBinaryData gzip = Compressed(text, CompressionType_GZip);
     const CBinaryData zlib = Compressed(text, CompressionType_Zlib);
     EXPECT_EQ(Bytes(gzip).substr(0, 2), "\x1F\x8B");
@@ -71,14 +64,6 @@ TEST(VxZip, BothFormatsCompressAtLevelOneAndExpandByContent)
     EXPECT_TRUE(Throws<CVxException>([&] { CVxZip::Compress(tiny, CompressionType_GZip); },
                                      "Failed to compress data. [Error Code: -5]"));
     EXPECT_EQ(Bytes(tiny), "<a/>");
-}
-
-TEST(VxZip, AnythingButACompleteStreamPassesThroughUntouched)
-{
-    const std::string gzip = Bytes(Compressed(Document(500), CompressionType_GZip));
-    for (const std::string &input : {Document(1), std::string("\xFF\xFE<\0a\0/\0>\0", 10), gzip.substr(0, gzip.size() / 2),
-                                     std::string(gzip).replace(40, 8, "garbage!"), std::string()})
-        EXPECT_EQ(Expanded(input), input);
 }
 
 TEST(VxZip, ExpansionPastTheLimitIsRefusedUntilTheLimitIsRaised)
@@ -100,7 +85,7 @@ TEST(VxZip, ExpansionPastTheLimitIsRefusedUntilTheLimitIsRaised)
 // stream reaches the parser as the raw bytes.
 TEST(VxZip, DocumentLoadersExpandBuffersButNotStrings)
 {
-    const CBinaryData zlib = Compressed(Document(300), CompressionType_Zlib);
+    const CBinaryData zlib = Compressed(VxTest::LinesOrder(300).ToXml(), CompressionType_Zlib);
     EXPECT_NO_THROW(LoadStream(zlib));
     try {
         CXmlDocument().LoadXml(Bytes(zlib).c_str());
@@ -108,7 +93,7 @@ TEST(VxZip, DocumentLoadersExpandBuffersButNotStrings)
     } catch (const CVxException &e) {
         EXPECT_NE(e.GetMessage().find(" at line 1"), std::string::npos) << e.GetMessage();
     }
-    const CBinaryData gzip = Compressed(Document(300), CompressionType_GZip);
+    const CBinaryData gzip = Compressed(VxTest::LinesOrder(300).ToXml(), CompressionType_GZip);
     const CBinaryData broken(const_cast<unsigned char *>(gzip.GetData()), gzip.GetLength() - 9, false);
     EXPECT_TRUE(Throws<CVxException>([&] { LoadStream(broken); }, "not well-formed (invalid token) at line 1"));
 }
