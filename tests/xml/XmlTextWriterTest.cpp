@@ -110,7 +110,9 @@ TEST_F(XmlTextWriterTest, TypeAndNilAttributes)
                       "<a AA:type=\"t:T\" AA:nil=\"true\"/><b xmlns:AB=\"urn:n\"  AA:type=\"AB:N\"/></doc>");
 }
 
-TEST_F(XmlTextWriterTest, AttributesOnlyWhileTheStartTagIsOpen)
+// The writer refuses misuse and leaves what it wrote; attributes are written only while
+// the start tag is open, and a refused line end leaves the old one in place.
+TEST_F(XmlTextWriterTest, MisuseFailsAndKeepsWhatWasWritten)
 {
     const std::string message = "Attributes must be added before elements";
     auto expectRefused = [&](const char *when) {
@@ -119,28 +121,17 @@ TEST_F(XmlTextWriterTest, AttributesOnlyWhileTheStartTagIsOpen)
         EXPECT_TRUE(Throws<CVxException>([&] { writer.WriteTypeAttribute("", "T", ItemType_XmlObject); }, message));
         EXPECT_TRUE(Throws<CVxException>([&] { writer.WriteNilAttribute(); }, message));
     };
+    writer.SetEOLType(EOLType_CRLF);
+    EXPECT_TRUE(Throws<CVxException>([&] { writer.SetEOLType(static_cast<EOLType>(2)); }, "Invalid EOL type."));
     expectRefused("nothing open");
     writer.StartElement("r", "");
     Leaf("child");
     expectRefused("after a child");
-}
-
-TEST_F(XmlTextWriterTest, UnbalancedElementsFail)
-{
-    writer.StartElement("r", "");
     writer.WriteElementValue("partial", ItemType_string, false);
     EXPECT_TRUE(Throws<CVxException>([&] { writer.EndDocument(); }, "An Element has not been closed."));
-    EXPECT_EQ(Text(), "<r>partial"); // what was written stays
+    EXPECT_EQ(Text(), "<r>\r\n\t<child/>\r\npartial");
     writer.EndElement();
     EXPECT_TRUE(Throws<CVxException>([&] { writer.EndElement(); }, "No element is open."));
-}
-
-TEST_F(XmlTextWriterTest, InvalidEolTypeIsRefusedAndTheOldOneKept)
-{
-    writer.SetEOLType(EOLType_CRLF);
-    EXPECT_TRUE(Throws<CVxException>([&] { writer.SetEOLType(static_cast<EOLType>(2)); }, "Invalid EOL type."));
-    Leaf("r");
-    EXPECT_EQ(Text(), "<r/>\r\n");
 }
 
 TEST_F(XmlTextWriterTest, DeclarationNamesTheStreamEncoding)
