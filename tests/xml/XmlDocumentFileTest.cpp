@@ -88,15 +88,20 @@ TEST(XmlDocumentFileTest, ChunkedReadingBuildsTheSameTreeAsWholeReading)
 
 // The chunked path asks for more after every full chunk and fails on the end of the
 // file, so an empty file and a file of exactly one chunk fail there; read whole, they do not.
-TEST(XmlDocumentFileTest, OnlyChunkedReadingFailsAtTheEndOfTheFile)
+// Both paths name a file that cannot be opened with the system error.
+TEST(XmlDocumentFileTest, FileFailuresOfBothReadingPaths)
 {
+    const std::string missing = TempPath("does-not-exist.xml");
+    const std::string notOpened = FormatString("Failed to open the file [%s] Error [0x%08x]", missing.c_str(), ENOENT);
     const std::string empty = WriteFile("empty.xml", "");
     const std::string exact = WriteFile("exact.xml", DocumentOfSize(kChunk));
     CXmlDocument document;
+    EXPECT_TRUE(Throws<CVxException>([&] { document.Load(missing.c_str()); }, notOpened));
     EXPECT_TRUE(Throws<CVxException>([&] { document.Load(empty.c_str()); }, "no element found at line 1"));
     EXPECT_NO_THROW(document.Load(exact.c_str()));
 
     AsyncReading async;
+    EXPECT_TRUE(Throws<CVxException>([&] { document.Load(missing.c_str()); }, notOpened));
     const std::string endOfFile = FormatString("Error [0x%08x]", ENODATA);
     EXPECT_TRUE(Throws<CVxException>([&] { document.Load(exact.c_str()); },
                                      "Failed to read the contents of the file. " + endOfFile));
@@ -109,16 +114,6 @@ TEST(XmlDocumentFileTest, OnlyChunkedReadingFailsAtTheEndOfTheFile)
     EXPECT_TRUE(Throws<CVxException>([&] { document.Load(WriteFile("bad.xml", "<r>\n<a></r>").c_str()); },
                                      "mismatched tag at line 2"));
     EXPECT_EQ(document.GetDocumentElement(), nullptr);
-}
-
-TEST(XmlDocumentFileTest, FileFailuresNameTheFileAndTheSystemError)
-{
-    const std::string missing = TempPath("does-not-exist.xml");
-    const std::string expected = FormatString("Failed to open the file [%s] Error [0x%08x]", missing.c_str(), ENOENT);
-    CXmlDocument document;
-    EXPECT_TRUE(Throws<CVxException>([&] { document.Load(missing.c_str()); }, expected));
-    AsyncReading async;
-    EXPECT_TRUE(Throws<CVxException>([&] { document.Load(missing.c_str()); }, expected));
 }
 
 TEST(XmlDocumentFileTest, EntityExpansionIsBoundedAndExternalEntitiesAreNeverRead)
