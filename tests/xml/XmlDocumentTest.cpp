@@ -39,9 +39,8 @@ TEST(XmlDocumentTest, NamesAttributesAndPathsCarryTheirNamespaces)
     EXPECT_TRUE(nilOrder->GetAttributes()[1]->IsNamespaceAttribute());
     EXPECT_FALSE(id->IsNilAttribute() || id->IsNamespaceAttribute());
 
-    // Predicates only for repeated names; the default namespace has the empty alias, which
-    // gives no prefix; an attribute's prefix stands before the "@". The paths also show the
-    // names and namespaces of the root and the prefixed attribute.
+    // Predicates only for repeated names; the empty alias of the default namespace gives no
+    // prefix; an attribute's prefix stands before the "@".
     const CXmlElement *secondItem = order->GetFirstElement()->GetNextSiblingElement();
     EXPECT_EQ(root->GetXPath(), "/o:orders");
     EXPECT_EQ(order->GetXPath(), "/o:orders/order[1]");
