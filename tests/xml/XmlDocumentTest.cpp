@@ -133,24 +133,15 @@ TEST(XmlDocumentTest, FailedLoadLeavesWhatWasBuiltUntilCleanup)
     EXPECT_EQ(document.GetDocumentElement(), nullptr);
 }
 
-namespace {
-
-int g_seen = 0;
-
-bool DropItems(CXmlElement *element)
-{
-    ++g_seen;
-    return element->GetLocalName() == "item";
-}
-
-} // namespace
-
 TEST(XmlDocumentTest, CallbackDropsConsumedElementsAndKeepsTheRest)
 {
-    g_seen = 0;
-    CXmlDocument document(&DropItems);
+    static int seen = 0;
+    CXmlDocument document(+[](CXmlElement *element) {
+        ++seen;
+        return element->GetLocalName() == "item";
+    });
     document.LoadXml("<r>x<item>1</item><keep/>y<item>2</item><item><item/></item></r>");
-    EXPECT_EQ(g_seen, 6);
+    EXPECT_EQ(seen, 6);
     const CXmlElement *root = document.GetDocumentElement();
     EXPECT_EQ(root->GetText(), "xy");
     ASSERT_NE(root->GetFirstElement(), nullptr);

@@ -16,6 +16,14 @@ namespace {
 const std::string Xsi = "http://www.w3.org/2001/XMLSchema-instance";
 const std::string XmlNs = "http://www.w3.org/XML/1998/namespace";
 
+// Counts the writer's flushes; the text stays in memory as in a plain stream.
+class CountingStream : public CTextStream
+{
+public:
+    void Flush() override { ++flushes; }
+    int flushes = 0;
+};
+
 class XmlTextWriterTest : public ::testing::Test
 {
 protected:
@@ -29,7 +37,7 @@ protected:
         writer.EndElement();
     }
 
-    CTextStream stream;
+    CountingStream stream;
     CXmlTextWriter writer{&stream};
 };
 
@@ -174,22 +182,8 @@ TEST(MakeUniqueAlias, FirstTwoLetterAliasNotTakenAsAValue)
     EXPECT_EQ(CXmlWriter::MakeUniqueAlias(table), "BA");
 }
 
-namespace {
-
-class CountingStream : public CTextStream
+TEST_F(XmlTextWriterTest, StreamIsFlushedOnceItHolds4096Bytes)
 {
-public:
-    void Flush() override { ++flushes; }
-    int flushes = 0;
-};
-
-} // namespace
-
-TEST(XmlTextWriterFlush, StreamIsFlushedOnceItHolds4096Bytes)
-{
-    CountingStream stream;
-    CXmlTextWriter writer(&stream);
-    writer.StartDocument();
     writer.StartElement("r", "");
     writer.WriteElementValue(std::string(4088, 'x'), ItemType_string, false);
     EXPECT_EQ(stream.flushes, 0); // 4091 bytes
