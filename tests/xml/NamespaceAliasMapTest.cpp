@@ -20,8 +20,10 @@ TEST(NamespaceAliasMap, OneAliasPerUriInUriOrder)
     EXPECT_FALSE(map.DoesAliasExist("x"));
     map.RemoveNamespace("a");
     EXPECT_FALSE(map.DoesNamespaceExist("a"));
-    EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { map.GetNamespaceAt(1); },
-                                                 "Namespace index [1] out of range"));
+    for (int index : {-1, 1}) {
+        EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { map.GetNamespaceAt(index); },
+                                                     FormatString("Namespace index [%d] out of range", index)));
+    }
 }
 
 TEST(NamespaceAliasMap, SharedAliasResolvesToTheSmallestUri)
