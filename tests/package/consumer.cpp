@@ -28,11 +28,8 @@ protected:
 
     CXmlElement *FromXml_Int(CXmlElement *, CXmlElement *, const CSerializationContext &, bool) override
     {
-        throw CVxException("CNote is written only");
+        return nullptr;
     }
-
-private:
-    ~CNote() override = default;
 };
 
 } // namespace
@@ -41,11 +38,6 @@ int main()
 {
     CSmartPtr<CNote> note = new CNote;
     const std::string text = note->ToXml(false, false, EOLType_LF, CSerializationContext::GetDefaultContext());
-    const std::string expected = "<AA:note xmlns:AA=\"urn:note\" to=\"Ann &amp; Bob\">1 &lt; 2</AA:note>";
-    if (text != expected) {
-        std::cerr << "got:      " << text << "\nexpected: " << expected << '\n';
-        return 1;
-    }
     std::cout << text << '\n';
-    return 0;
+    return text == "<AA:note xmlns:AA=\"urn:note\" to=\"Ann &amp; Bob\">1 &lt; 2</AA:note>" ? 0 : 1;
 }

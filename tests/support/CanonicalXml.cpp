@@ -11,10 +11,9 @@ namespace {
 
 struct OpenElement
 {
-    std::string line; // depth, name and attributes
+    std::size_t line; // where its line stands in the output
     std::string text;
     bool hasChildren = false;
-    std::size_t slot = 0; // where its line goes in the output
 };
 
 struct Canonicalizer
@@ -31,24 +30,20 @@ struct Canonicalizer
         for (const char **a = attributes; *a; a += 2)
             sorted.push_back(std::string(a[0]) + "=\"" + a[1] + "\"");
         std::sort(sorted.begin(), sorted.end());
-        OpenElement element;
-        element.line = std::to_string(self->open.size()) + " " + name;
+        std::string line = std::to_string(self->open.size()) + " " + name;
         for (const std::string &attribute : sorted)
-            element.line += " " + attribute;
-        element.slot = self->lines.size();
-        self->lines.emplace_back();
-        self->open.push_back(std::move(element));
+            line += " " + attribute;
+        self->open.push_back({self->lines.size()});
+        self->lines.push_back(std::move(line));
     }
 
     static void End(void *data, const char *)
     {
         auto *self = static_cast<Canonicalizer *>(data);
-        OpenElement &element = self->open.back();
+        const OpenElement &element = self->open.back();
         const bool layoutOnly = element.text.find_first_not_of(" \t\r\n") == std::string::npos;
-        std::string &line = self->lines[element.slot];
-        line = element.line;
         if (!(element.hasChildren && layoutOnly))
-            line += " [" + element.text + "]";
+            self->lines[element.line] += " [" + element.text + "]";
         self->open.pop_back();
     }
 

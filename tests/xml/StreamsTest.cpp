@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <functional>
 #include <fstream>
 #include <iterator>
 #include <string>
@@ -9,7 +8,6 @@
 #include "ExceptionAssert.h"
 #include "LocalTextScope.h"
 #include "BinaryData.h"
-#include "BinaryStream.h"
 #include "Exceptions.h"
 #include "FileTextStream.h"
 #include "LinesOrder.h"
@@ -47,25 +45,27 @@ const std::string Bom("\xFF\xFE", 2);
 
 } // namespace
 
-TEST(Streams, ToXmlStreamEncodesWithoutByteOrderMark)
+TEST(Streams, ToXmlStreamEncodesTheTextWithoutByteOrderMarkAndReadsBack)
 {
-    Order order(3);
-    const std::string text = order.ToXml(true);
+    Order order(20);
     EXPECT_EQ(Bytes(order.ToXmlStream(false, true, XmlEncoding_UTF8)), order.ToXml(false));
-    // UTF-16 without a name in the declaration is exactly the text in little-endian units.
+    // UTF-16 is little-endian on any host.
     const std::string utf16 = Bytes(order.ToXmlStream(true, true, XmlEncoding_UTF16NoDecl));
-    EXPECT_EQ(utf16, Bytes(LocalToUtf16Data(text.c_str())));
     EXPECT_EQ(utf16.substr(0, 4), std::string("<\0?\0", 4));
-    EXPECT_NE(utf16.find(std::string("\xE9\0", 2)), std::string::npos);
-    EXPECT_NE(Bytes(order.ToXmlStream(true, true, XmlEncoding_UTF16)).find(Bytes(LocalToUtf16Data("encoding=\"UTF-16\"?>"))),
-              std::string::npos);
+    EXPECT_EQ(utf16, Bytes(LocalToUtf16Data(order.ToXml(true).c_str())));
+    for (auto compression : {CompressionType_GZip, CompressionType_Zlib}) {
+        Order back(0);
+        back.FromXmlStream(order.ToXmlStream(true, true, XmlEncoding_UTF16, EOLType_LF,
+                                             CSerializationContext::GetDefaultContext(), compression));
+        EXPECT_EQ(back.ReadLines(), Order::LinesOf(20));
+    }
 }
 
 TEST(Streams, EncodingsWithoutBytesFailOnlyWhenBytesAreAsked)
 {
     Order order(1);
     EXPECT_NO_THROW(order.ToXml());
-    for (auto encoding : {XmlEncoding_None, static_cast<XmlEncoding>(4), static_cast<XmlEncoding>(-3)})
+    for (auto encoding : {XmlEncoding_None, static_cast<XmlEncoding>(-3)})
         EXPECT_TRUE(Throws<CVxException>([&] { order.ToXmlStream(true, true, encoding); }, UnknownEncoding));
 
     // ASCIIOnly passes narrow bytes to UTF-8 as they stand, but not to UTF-16.
@@ -79,26 +79,9 @@ TEST(Streams, EncodingsWithoutBytesFailOnlyWhenBytesAreAsked)
     EXPECT_EQ(Bytes(utf16.GetBinaryData()), std::string("\xE9\0", 2));
 }
 
-TEST(Streams, CompressedStreamsReadBack)
-{
-    Order order(200);
-    const auto &context = CSerializationContext::GetDefaultContext();
-    for (auto encoding : {XmlEncoding_UTF8, XmlEncoding_UTF16})
-        for (auto compression : {CompressionType_GZip, CompressionType_Zlib}) {
-            const CBinaryData data = order.ToXmlStream(true, true, encoding, EOLType_LF, context, compression);
-            EXPECT_EQ(data[0], compression == CompressionType_GZip ? 0x1F : 0x78);
-            Order back(0);
-            back.FromXmlStream(data);
-            EXPECT_TRUE(back.ReadLines() == Order::LinesOf(200));
-        }
-    // Too short to shrink under a gzip wrapper; zlib's result code follows.
-    EXPECT_TRUE(Throws<CVxException>(
-        [&] { Order(0).ToXmlStream(false, false, XmlEncoding_UTF8, EOLType_LF, context, CompressionType_GZip); },
-        "Failed to compress data. [Error Code: 0]"));
-}
-
 // Every route to a file gives the mark for UTF-16 (before gzip data too) and the bytes
 // of ToXmlStream after it; the text is long enough for many flushes of the file stream.
+// zlib is refused for files before anything is created.
 TEST(Streams, ToXmlFileBytesForEveryEncodingCompressionAndSwitch)
 {
     Order order(3000);
@@ -110,62 +93,32 @@ TEST(Streams, ToXmlFileBytesForEveryEncodingCompressionAndSwitch)
             for (auto compression : {CompressionType_None, CompressionType_GZip, static_cast<CompressionType>(9)}) {
                 SCOPED_TRACE(testing::Message() << async << " " << encoding << " " << compression);
                 order.ToXmlFile(path.c_str(), true, true, encoding, EOLType_CRLF, context, compression);
+                const std::string mark = encoding == XmlEncoding_UTF8 ? "" : Bom;
+                const CBinaryData bytes = order.ToXmlStream(true, true, encoding, EOLType_CRLF, context, compression);
                 const std::string file = ReadFile(path);
-                EXPECT_TRUE(file == (encoding == XmlEncoding_UTF8 ? "" : Bom) +
-                                        Bytes(order.ToXmlStream(true, true, encoding, EOLType_CRLF, context, compression)));
-                EXPECT_EQ(file.substr(encoding == XmlEncoding_UTF8 ? 0 : 2, 2),
-                          compression == CompressionType_GZip ? "\x1F\x8B" : encoding == XmlEncoding_UTF8 ? "<?" : std::string("<\0", 2));
+                EXPECT_TRUE(file == mark + Bytes(bytes));
+                EXPECT_EQ(file[mark.size()], compression == CompressionType_GZip ? '\x1F' : '<');
                 Order back(0);
                 back.FromXmlFile(path.c_str());
                 EXPECT_TRUE(back.ReadLines() == Order::LinesOf(3000));
             }
-    }
-    std::filesystem::remove(path);
-}
-
-TEST(Streams, ZlibIsRefusedForFilesBeforeAnythingIsCreated)
-{
-    const std::string path = TempPath("never.xml");
-    std::filesystem::remove(path);
-    for (bool async : {false, true}) {
-        AsyncScope scope(async);
-        EXPECT_TRUE(Throws<CVxException>(
-            [&] {
-                Order(10).ToXmlFile(path.c_str(), true, true, XmlEncoding_UTF8, EOLType_LF,
-                                    CSerializationContext::GetDefaultContext(), CompressionType_Zlib);
-            },
-            "ZLIB Compression only available for To Stream methods."));
+        std::filesystem::remove(path);
+        auto zlibFile = [&] {
+            order.ToXmlFile(path.c_str(), true, true, XmlEncoding_UTF8, EOLType_LF, context, CompressionType_Zlib);
+        };
+        EXPECT_TRUE(Throws<CVxException>(zlibFile, "ZLIB Compression only available for To Stream methods."));
         EXPECT_FALSE(std::filesystem::exists(path));
     }
 }
 
-TEST(Streams, FileStreamWritesTheMarkAndFlushesInOrder)
+TEST(Streams, FileStreamWritesTheMarkEvenWithoutText)
 {
     const std::string path = TempPath("stream.xml");
-    for (auto encoding : {XmlEncoding_UTF8, XmlEncoding_UTF16}) {
-        CFileTextStream stream(path.c_str(), encoding);
-        stream.Open();
-        stream.Flush(); // nothing to send
-        stream.Close();
-        EXPECT_EQ(ReadFile(path), encoding == XmlEncoding_UTF8 ? "" : Bom);
-    }
     CFileTextStream stream(path.c_str(), XmlEncoding_UTF16);
     stream.Open();
-    std::string expected;
-    for (int i = 0; i < 50; ++i) {
-        expected += "<p n=\"" + std::to_string(i) + "\">\xC3\xA9</p>";
-        stream.Append(expected.c_str() + expected.rfind("<p"));
-        stream.Flush();
-    }
+    stream.Flush(); // nothing to send
     stream.Close();
-    EXPECT_EQ(ReadFile(path), Bom + Bytes(LocalToUtf16Data(expected.c_str())));
-
-    // Finished binary output takes the mark by its encoding alone.
-    CBinaryStream binary;
-    binary.Append(CBinaryData("\x1F\x8B"));
-    binary.Append(static_cast<unsigned char>(0));
-    CFileBinaryStream(path.c_str(), XmlEncoding_UTF16NoDecl, binary.GetData()).Save();
-    EXPECT_EQ(ReadFile(path), Bom + std::string("\x1F\x8B\0", 3));
+    EXPECT_EQ(ReadFile(path), Bom);
     std::filesystem::remove(path);
 }
 
@@ -185,12 +138,6 @@ TEST(Streams, FileErrorsCarryTheSystemErrorNumber)
     AsyncScope on(true);
     EXPECT_TRUE(Throws<CVxException>([&] { order.ToXmlFile("/dev/full", true, true, XmlEncoding_UTF16); },
                                      "Failed to write data to the file. Error [0x0000001C]"));
-    // Bytes still gathered (here the mark alone) fail when the stream closes.
-    EXPECT_TRUE(Throws<CVxException>([] {
-                  CFileTextStream stream("/dev/full", XmlEncoding_UTF16);
-                  stream.Open();
-                  stream.Close();
-              }, "Failed to write data to the file. Error [0x0000001C]"));
     // Without bytes to write the file stream fails as the memory stream does.
     const std::string path = TempPath("none.xml");
     EXPECT_TRUE(Throws<CVxException>([&] { order.ToXmlFile(path.c_str(), true, true, XmlEncoding_None); },

@@ -16,6 +16,14 @@ namespace {
 const std::string Xsi = "http://www.w3.org/2001/XMLSchema-instance";
 const std::string XmlNs = "http://www.w3.org/XML/1998/namespace";
 
+// Counts the writer's flushes; the text stays in memory as in a plain stream.
+class CountingStream : public CTextStream
+{
+public:
+    void Flush() override { ++flushes; }
+    int flushes = 0;
+};
+
 class XmlTextWriterTest : public ::testing::Test
 {
 protected:
@@ -23,14 +31,13 @@ protected:
 
     std::string Text() { return std::string(stream.GetText(), stream.GetLength()); }
 
-    // An empty element.
     void Leaf(const std::string &name, const std::string &uri = std::string())
     {
         writer.StartElement(name, uri);
         writer.EndElement();
     }
 
-    CTextStream stream;
+    CountingStream stream;
     CXmlTextWriter writer{&stream};
 };
 
@@ -48,22 +55,7 @@ TEST_F(XmlTextWriterTest, EscapingDiffersBetweenElementAndAttributeText)
                       "a\nb\"c'd\te&amp;f&lt;g&gt;h\xC3\xA9i|x</r>\n");
 }
 
-TEST_F(XmlTextWriterTest, CDataPrefixIsWrittenVerbatim)
-{
-    writer.SetFormatted(false);
-    writer.StartElement("r", "");
-    Leaf("e");
-    writer.StartElement("a", "");
-    writer.WriteElementValue("<![CDATA[x<y", ItemType_string, false); // no terminator: stays so
-    writer.EndElement();
-    writer.StartElement("b", "");
-    writer.WriteElementValue("<![CDATA x<y", ItemType_string, false);
-    writer.EndElement();
-    writer.EndElement();
-    EXPECT_EQ(Text(), "<r><e/><a><![CDATA[x<y</a><b>&lt;![CDATA x&lt;y</b></r>");
-}
-
-TEST_F(XmlTextWriterTest, EmptyTextAndUnwrittenDefaultsLeaveTheElementEmpty)
+TEST_F(XmlTextWriterTest, EmptyValuesDefaultsAndCDataPrefixes)
 {
     writer.SetFormatted(false);
     writer.StartElement("r", "");
@@ -74,81 +66,61 @@ TEST_F(XmlTextWriterTest, EmptyTextAndUnwrittenDefaultsLeaveTheElementEmpty)
     writer.StartElement("b", "");
     writer.WriteElementValue("3", ItemType_i4, true);
     writer.EndElement();
-    writer.SetWriteDefaultValues(true);
     writer.StartElement("c", "");
+    writer.WriteElementValue("<![CDATA[x<y", ItemType_string, false); // no terminator: stays so
+    writer.WriteElementValue("<![CDATA x<y", ItemType_string, false);
+    writer.EndElement();
+    writer.SetWriteDefaultValues(true);
+    writer.StartElement("d", "");
     writer.WriteElementValue("3", ItemType_i4, true);
-    writer.WriteElementValue("4", ItemType_i4, false); // several values simply follow
     writer.EndElement();
     writer.EndElement();
-    EXPECT_EQ(Text(), "<r><a still=\"open\"/><b/><c>34</c></r>");
+    EXPECT_EQ(Text(), "<r><a still=\"open\"/><b/><c><![CDATA[x<y&lt;![CDATA x&lt;y</c><d>3</d></r>");
 }
 
-TEST_F(XmlTextWriterTest, RootDeclaresTheTableInUriOrderButNeverTheXmlNamespace)
+TEST_F(XmlTextWriterTest, RootDeclaresTheTableAndAttributesInANamespaceAlwaysGetAPrefix)
 {
+    writer.SetFormatted(false);
+    writer.AddNamespace("d", "urn:d");
     writer.AddNamespace("z", "urn:b");
-    writer.AddNamespace("y", "urn:a");
     writer.AddNamespace("x2", XmlNs + "-extra"); // a prefix match is enough to be skipped
     writer.AddNamespace("", "urn:empty");        // an empty alias is no alias
     writer.SetDefaultNamespace("urn:d");
     writer.StartElement("doc", "urn:d");
     writer.WriteAttribute("lang", XmlNs, "en", ItemType_string);
-    Leaf("e", "urn:empty");
-    writer.EndElement();
-    EXPECT_EQ(Text(), "<doc xmlns=\"urn:d\" xmlns:y=\"urn:a\" xmlns:z=\"urn:b\" xml:lang=\"en\">\n"
-                      "\t<AA:e xmlns:AA=\"urn:empty\"/>\n</doc>\n");
-}
-
-TEST_F(XmlTextWriterTest, AttributeInANamespaceAlwaysGetsAPrefix)
-{
-    writer.SetFormatted(false);
-    writer.AddNamespace("d", "urn:d");
-    writer.SetDefaultNamespace("urn:d");
-    writer.StartElement("doc", "urn:d");
     writer.WriteAttribute("a", "urn:d", "1", ItemType_string);
     writer.WriteAttribute("b", "urn:u", "2", ItemType_string); // declared in front of itself
     writer.WriteAttribute("c", "urn:u", "3", ItemType_string); // and visible to the next one
-    writer.WriteAttribute("d", "", "4", ItemType_string);
     Leaf("child", "urn:u");
+    Leaf("e", "urn:empty");
     writer.EndElement();
-    EXPECT_EQ(Text(), "<doc xmlns=\"urn:d\" xmlns:d=\"urn:d\" d:a=\"1\" xmlns:AA=\"urn:u\" AA:b=\"2\" "
-                      "AA:c=\"3\" d=\"4\"><AA:child/></doc>");
+    EXPECT_EQ(Text(), "<doc xmlns=\"urn:d\" xmlns:z=\"urn:b\" xmlns:d=\"urn:d\" xml:lang=\"en\" d:a=\"1\" "
+                      "xmlns:AA=\"urn:u\" AA:b=\"2\" AA:c=\"3\"><AA:child/><AB:e xmlns:AB=\"urn:empty\"/></doc>");
 }
 
 TEST_F(XmlTextWriterTest, TypeAndNilAttributes)
 {
     writer.SetFormatted(false);
-    writer.StartElement("doc", "");
-    writer.StartElement("a", "");
-    writer.WriteTypeAttribute("urn:t", "T", ItemType_XmlObject);
-    writer.WriteNilAttribute();
-    writer.EndElement();
-    writer.StartElement("b", "");
-    writer.WriteTypeAttribute("", "Plain", ItemType_XmlObject);
-    writer.EndElement();
-    writer.EndElement();
-    // The declaration made for the type's namespace leaves a double blank behind it.
-    EXPECT_EQ(Text(), "<doc><a xmlns:AA=\"urn:t\"  xmlns:AB=\"" + Xsi + "\" AB:type=\"AA:T\" AB:nil=\"true\"/>"
-                      "<b xmlns:AA=\"" + Xsi + "\" AA:type=\"Plain\"/></doc>");
-}
-
-TEST_F(XmlTextWriterTest, TypeInTheDefaultNamespaceIsUnprefixed)
-{
-    writer.SetFormatted(false);
-    writer.AddNamespace("xsi", Xsi);
     writer.AddNamespace("t", "urn:t");
     writer.SetDefaultNamespace("urn:d");
     writer.StartElement("doc", "urn:d");
     writer.WriteTypeAttribute("urn:d", "D", ItemType_XmlObject);
     writer.StartElement("a", "urn:d");
     writer.WriteTypeAttribute("urn:t", "T", ItemType_XmlObject);
+    writer.WriteNilAttribute();
+    writer.EndElement();
+    writer.StartElement("b", "");
+    writer.WriteTypeAttribute("urn:n", "N", ItemType_XmlObject);
     writer.EndElement();
     writer.EndElement();
-    // The instance URI sorts before the URNs.
-    EXPECT_EQ(Text(), "<doc xmlns=\"urn:d\" xmlns:xsi=\"" + Xsi +
-                          "\" xmlns:t=\"urn:t\" xsi:type=\"D\"><a xsi:type=\"t:T\"/></doc>");
+    // The declaration made for the type's namespace leaves a double blank behind it.
+    EXPECT_EQ(Text(), "<doc xmlns=\"urn:d\" xmlns:t=\"urn:t\" xmlns:AA=\"" + Xsi + "\" AA:type=\"D\">"
+                      "<a AA:type=\"t:T\" AA:nil=\"true\"/><b xmlns:AB=\"urn:n\"  AA:type=\"AB:N\"/></doc>");
 }
 
-TEST_F(XmlTextWriterTest, AttributesOnlyWhileTheStartTagIsOpen)
+// The writer refuses misuse and leaves what it wrote; attributes are written only while
+// the start tag is open, and a refused line end leaves the old one in place.
+TEST_F(XmlTextWriterTest, MisuseFailsAndKeepsWhatWasWritten)
 {
     const std::string message = "Attributes must be added before elements";
     auto expectRefused = [&](const char *when) {
@@ -157,39 +129,22 @@ TEST_F(XmlTextWriterTest, AttributesOnlyWhileTheStartTagIsOpen)
         EXPECT_TRUE(Throws<CVxException>([&] { writer.WriteTypeAttribute("", "T", ItemType_XmlObject); }, message));
         EXPECT_TRUE(Throws<CVxException>([&] { writer.WriteNilAttribute(); }, message));
     };
+    writer.SetEOLType(EOLType_CRLF);
+    EXPECT_TRUE(Throws<CVxException>([&] { writer.SetEOLType(static_cast<EOLType>(2)); }, "Invalid EOL type."));
     expectRefused("nothing open");
     writer.StartElement("r", "");
     Leaf("child");
     expectRefused("after a child");
-    writer.StartElement("t", "");
-    writer.WriteElementValue("text", ItemType_string, false);
-    expectRefused("after text");
-}
-
-TEST_F(XmlTextWriterTest, UnbalancedElementsFail)
-{
-    writer.StartElement("r", "");
     writer.WriteElementValue("partial", ItemType_string, false);
     EXPECT_TRUE(Throws<CVxException>([&] { writer.EndDocument(); }, "An Element has not been closed."));
-    EXPECT_EQ(Text(), "<r>partial"); // what was written stays
-
+    EXPECT_EQ(Text(), "<r>\r\n\t<child/>\r\npartial");
     writer.EndElement();
     EXPECT_TRUE(Throws<CVxException>([&] { writer.EndElement(); }, "No element is open."));
-}
-
-TEST_F(XmlTextWriterTest, InvalidEolTypeIsRefusedAndTheOldOneKept)
-{
-    writer.SetEOLType(EOLType_CRLF);
-    EXPECT_TRUE(Throws<CVxException>([&] { writer.SetEOLType(static_cast<EOLType>(2)); }, "Invalid EOL type."));
-    EXPECT_EQ(writer.GetEOLType(), EOLType_CRLF);
-    Leaf("r");
-    EXPECT_EQ(Text(), "<r/>\r\n");
 }
 
 TEST_F(XmlTextWriterTest, DeclarationNamesTheStreamEncoding)
 {
     const std::pair<XmlEncoding, const char *> cases[] = {
-        {XmlEncoding_None, "<?xml version=\"1.0\"?>\r\n"},
         {XmlEncoding_UTF8, "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n"},
         {XmlEncoding_UTF16, "<?xml version=\"1.0\" encoding=\"UTF-16\"?>\r\n"},
         {XmlEncoding_UTF16NoDecl, "<?xml version=\"1.0\"?>\r\n"},
@@ -204,24 +159,16 @@ TEST_F(XmlTextWriterTest, DeclarationNamesTheStreamEncoding)
     }
 }
 
-TEST_F(XmlTextWriterTest, CommentInstructionAndInlineSchema)
+TEST_F(XmlTextWriterTest, InstructionCommentSchemaAndRawTextAreWrittenAsGiven)
 {
-    writer.SetFormatted(false);
     writer.WriteProcessingInstruction("<?pi a<b?>");
     writer.WriteComment("x<y\n--");
     writer.StartElement("doc", "");
     writer.WriteInlineSchema("<s/>");
-    writer.EndElement();
-    EXPECT_EQ(Text(), "<?pi a<b?>\n\n<!--x&lt;y\n---->\n<doc \n<s/>\n/>");
-}
-
-TEST_F(XmlTextWriterTest, RawTextIsPastedAfterClosingTheStartTag)
-{
-    writer.StartElement("doc", "");
     writer.CloseStartTag();
     writer.WriteRawText("<x a=\"&amp;\"/>");
     writer.EndElement();
-    EXPECT_EQ(Text(), "<doc>\n<x a=\"&amp;\"/>\n</doc>\n");
+    EXPECT_EQ(Text(), "<?pi a<b?>\n\n<!--x&lt;y\n---->\n<doc \n<s/>\n>\n<x a=\"&amp;\"/>\n</doc>\n");
 }
 
 TEST(MakeUniqueAlias, FirstTwoLetterAliasNotTakenAsAValue)
@@ -235,27 +182,11 @@ TEST(MakeUniqueAlias, FirstTwoLetterAliasNotTakenAsAValue)
     EXPECT_EQ(CXmlWriter::MakeUniqueAlias(table), "BA");
 }
 
-namespace {
-
-class CountingStream : public CTextStream
+TEST_F(XmlTextWriterTest, StreamIsFlushedOnceItHolds4096Bytes)
 {
-public:
-    void Flush() override { ++flushes; }
-    int flushes = 0;
-};
-
-} // namespace
-
-TEST(XmlTextWriterFlush, StreamIsFlushedOnceItHolds4096Bytes)
-{
-    CountingStream stream;
-    CXmlTextWriter writer(&stream);
-    writer.StartDocument();
     writer.StartElement("r", "");
     writer.WriteElementValue(std::string(4088, 'x'), ItemType_string, false);
-    EXPECT_EQ(stream.GetLength(), 4091u);
-    EXPECT_EQ(stream.flushes, 0);
+    EXPECT_EQ(stream.flushes, 0); // 4091 bytes
     writer.EndElement(); // "</r>\n" reaches 4096
-    EXPECT_EQ(stream.GetLength(), 4096u);
     EXPECT_EQ(stream.flushes, 1);
 }
