@@ -8,13 +8,10 @@ using namespace VxPlatform;
 
 namespace {
 
-TEST(CodePageConverter, EveryListedCodePageHasAConverterThatKeepsAscii)
+TEST(CodePageConverter, ListedCodePagesHaveAConverterThatKeepsAscii)
 {
-    const std::uint32_t listed[] = {437,   850,   852,   866,   874,   932,   936,   949,   950,
-                                    1250,  1251,  1252,  1253,  1254,  1255,  1256,  1257,  1258,
-                                    10000, 20127, 20866, 21866, 28591, 28592, 28593, 28594, 28595,
-                                    28596, 28597, 28598, 28599, 28603, 28605, 51932, 51949, 54936};
-    // The transcoders copy plain ASCII instead of converting it, for every code page.
+    // One page of each family of the table; the transcoders copy plain ASCII instead of converting it.
+    const std::uint32_t listed[] = {437, 932, 936, 1252, 10000, 20127, 20866, 28591, 28605, 51932, 54936};
     std::string ascii;
     std::u16string wideAscii;
     for (char16_t c = 1; c < 128; ++c) {

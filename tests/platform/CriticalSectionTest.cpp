@@ -21,14 +21,12 @@ bool OtherThreadGetsIn(CVXCriticalSection &lock)
     for (int i = 0; i < 200 && !entered; ++i)
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
     const bool result = entered;
-    if (!result) {
-        // Let the waiting thread finish before the caller leaves.
+    // A waiting thread is let in, so that it ends, and the caller takes the lock back.
+    if (!result)
         lock.Leave();
-        other.join();
+    other.join();
+    if (!result)
         lock.Enter();
-    } else {
-        other.join();
-    }
     return result;
 }
 
