@@ -134,7 +134,7 @@ TEST(BigIntegerArithmetic, DivisionAndRemainderSigns)
         Throws<CVxInvalidValueException>([] { (void)(CBigInteger(0) % CBigInteger("-0")); }, overflowRemainder));
 }
 
-TEST(BigIntegerCompare, NegativeZeroIsEqualButSmallerAndUnaryMinusMutates)
+TEST(BigIntegerCompare, NegativeZeroIsSmallerAndUnaryMinusMutates)
 {
     EXPECT_FALSE(CBigInteger(0) <= CBigInteger("-0"));
     EXPECT_TRUE(CBigInteger(-10) < CBigInteger(-9));
