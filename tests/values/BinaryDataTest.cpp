@@ -97,7 +97,9 @@ TEST(BinaryData, HexForms)
     EXPECT_EQ("", CBinaryData::GetAsHexString(nullptr, 4));
 
     EXPECT_TRUE(Throws<CVxException>([&] { data.SetAsHexString("abc"); }, "Invalid length in hex string"));
+    // The high and the low nibble are checked apart; white space is not skipped.
     EXPECT_TRUE(Throws<CVxException>([&] { data.SetAsHexString(" 0"); }, "Invalid char in hex string [ ]"));
+    EXPECT_TRUE(Throws<CVxException>([&] { data.SetAsHexString("0g"); }, "Invalid char in hex string [g]"));
 }
 
 TEST(BinaryData, Base64PaddingAndLenientDecoding)
