@@ -60,11 +60,6 @@ TEST(Exceptions, AssignmentKeepsTheTargetPathAndSurvivesItsOwnInner)
     EXPECT_EQ(typeid(*target.GetInnerException()), typeid(CVxInvalidStateException));
     EXPECT_NE(target.GetInnerException(), source.GetInnerException());
 
-    CVxValidationException validation("v", "/v");
-    validation = CVxValidationException("w", "");
-    EXPECT_EQ(validation.GetMessage(), "w");
-    EXPECT_EQ(validation.GetPath(), "/v");
-
     target = target;
     EXPECT_EQ(target.GetFullMessage(), "new\nPath: p\nnew inner");
 
