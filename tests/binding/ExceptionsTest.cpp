@@ -16,18 +16,8 @@ TEST(Exceptions, PathJoinsTheMessageOnlyWhenNotEmptyAndFullMessageWalksTheChain)
     EXPECT_EQ(withPath.GetMessage(), "m\nPath: /a/b");
     EXPECT_EQ(withPath.GetPath(), "/a/b");
 
-    const CVxException wrappedWithoutPath("outer", "", CVxException("inner"));
-    EXPECT_EQ(wrappedWithoutPath.GetMessage(), "outer");
-
-    // A value failure never knows a path, so the first reader level it crosses adds one.
-    const CVxInvalidValueException value("bad");
-    const CVxValidationException &asValidation = value;
-    EXPECT_EQ(asValidation.GetPath(), "");
-
     const CVxInvalidParamException innermost("what went wrong");
     const CVxValidationException middle("m", "p", innermost);
-    EXPECT_EQ(middle.GetFullMessage(), "m\nPath: p\nwhat went wrong");
-
     const CVxException outer("what was being done", middle);
     EXPECT_EQ(outer.GetFullMessage(), "what was being done\nm\nPath: p\nwhat went wrong");
     EXPECT_EQ(outer.GetPath(), "");
@@ -35,21 +25,14 @@ TEST(Exceptions, PathJoinsTheMessageOnlyWhenNotEmptyAndFullMessageWalksTheChain)
 
 TEST(Exceptions, WrappedExceptionsKeepTheirKindConvertedOnesTakeANewOne)
 {
-    const CVxInvalidNamespaceException refused("refused", "/r");
-    const CVxException level2("level 2", CVxException("level 1", refused));
-    const CVxException copy(level2);
-
-    const CVxException *inner = copy.GetInnerException()->GetInnerException();
-    EXPECT_EQ(typeid(*inner), typeid(CVxInvalidNamespaceException));
-    EXPECT_EQ(inner->GetMessage(), "refused\nPath: /r");
-    // The inner exception is always a clone, never the object it was built from.
-    EXPECT_NE(inner, &refused);
-    EXPECT_NE(copy.GetInnerException(), level2.GetInnerException());
-
+    // Each kind clones as itself, also two levels down in a copy of a chain.
     const auto keepsKind = [](const CVxException &wrapped) {
-        const CVxException outer("k", wrapped);
-        return typeid(*outer.GetInnerException()) == typeid(wrapped);
+        const CVxException chain("level 2", CVxException("level 1", wrapped));
+        const CVxException copy(chain);
+        const CVxException *inner = copy.GetInnerException()->GetInnerException();
+        return typeid(*inner) == typeid(wrapped) && inner->GetMessage() == wrapped.GetMessage();
     };
+    EXPECT_TRUE(keepsKind(CVxInvalidNamespaceException("refused", "/r")));
     EXPECT_TRUE(keepsKind(CVxValidationException("v", "")));
     EXPECT_TRUE(keepsKind(CVxInvalidValueException("v")));
     EXPECT_TRUE(keepsKind(CVxInvalidParamException("v")));
@@ -75,11 +58,6 @@ TEST(Exceptions, AssignmentKeepsTheTargetPathAndSurvivesItsOwnInner)
     EXPECT_EQ(typeid(*target.GetInnerException()), typeid(CVxInvalidStateException));
     EXPECT_NE(target.GetInnerException(), source.GetInnerException());
 
-    CVxValidationException validation("v", "/v");
-    validation = CVxValidationException("w", "");
-    EXPECT_EQ(validation.GetMessage(), "w");
-    EXPECT_EQ(validation.GetPath(), "/v");
-
     target = target;
     EXPECT_EQ(target.GetFullMessage(), "new\nPath: p\nnew inner");
 
@@ -98,5 +76,4 @@ TEST(Exceptions, FormatStringNeverTruncates)
 {
     const std::string longValue(100000, 'x');
     EXPECT_EQ(FormatString("[%s] is %d long", longValue.c_str(), 100000), "[" + longValue + "] is 100000 long");
-    EXPECT_EQ(FormatString("%08X|%5.2f", 0x1Fu, 3.14159), "0000001F| 3.14");
 }

@@ -103,7 +103,6 @@ TEST(Facets, EachTypeAppliesTheFacetsOfItsRow)
         {"QUJD", ItemType_base64Binary, Lengths(3, 3, 3), nullptr},
         // A facet outside a type's row is ignored.
         {"5", ItemType_i4, Pattern("x"), nullptr},
-        {"5", ItemType_i8, Digits(5, 0), nullptr},
         // char has no row: it always fails.
         {"x", ItemType_char, Facets(), "Unknown type [char]."},
         // A bad bound is the conversion's fault, not a facet failure.
@@ -113,9 +112,6 @@ TEST(Facets, EachTypeAppliesTheFacetsOfItsRow)
         EXPECT_EQ(c.failure ? c.failure : "", Check(c.value, c.type, c.facets)) << c.value;
 
     EXPECT_THROW(CheckRestrictionValue("e", 'x', ItemType_char, CPrimitiveRestrictions()), CVxInvalidValueException);
-    VxVariant object;
-    object.SetXmlObject(nullptr);
-    EXPECT_THROW(CheckPrimitiveRestriction("e", object, ItemType_XmlObject, CPrimitiveRestrictions()), CVxException);
 }
 
 TEST(Facets, PatternsAreTranslatedAndAnchored)
@@ -126,7 +122,7 @@ TEST(Facets, PatternsAreTranslatedAndAnchored)
         {"\\d{5}", "a12345", false}, {"\\i\\c*", "xs:name-1.a", true}, {"\\i\\c*", "1abc", false},
         {"\\\\i", "\\i", true}, // an escaped backslash stays literal
         {"\\\\i", "a", false}, {"\\I+", "12", true}, {"\\C", "a", false},
-        {"a|b", "b", true}, // alternatives sit inside the anchors
+        {"a|b", "ab", false}, // alternatives sit inside the anchors
         {"\\p{IsBasicLatin}+", "abc", true}, {"\\p{IsLatin-1Supplement}", "\xC3\xA9", true},
         {"\\p{IsLatinExtended-A}", "\xC5\x81", true}, {"\\p{IsLatinExtended-B}", "\xC6\x80", true},
         {"\\p{IsLatinExtended-B}", "\xC9\x8F", true}, {"\\p{IsLatinExtended-B}", "\xC9\x90", false},

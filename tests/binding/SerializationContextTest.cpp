@@ -11,7 +11,6 @@ using VxTest::Throws;
 TEST(SerializationContext, SchemaTypeTwoIgnoresNamespacesWithoutTouchingTheFlag)
 {
     CSerializationContext context;
-    EXPECT_FALSE(context.GetIgnoreNamespaces());
     context.SetSchemaType(SchemaType_NoNamespaces);
     EXPECT_TRUE(context.GetIgnoreNamespaces());
     context.SetSchemaType(static_cast<SchemaType>(1)); // any other number behaves like 0
@@ -41,7 +40,6 @@ TEST(SerializationContext, IgnoringUnknownAndMissingElementsExcludeEachOther)
 TEST(SerializationContext, IndentCharsTakeOnlyBlanksAndTabs)
 {
     CSerializationContext context;
-    EXPECT_EQ(context.GetIndentChars(), "\t");
     context.SetIndentChars("  \t");
     for (const char *refused : {" x", "\n", "\t\r", " \v"}) {
         EXPECT_TRUE(Throws<CVxInvalidParamException>(

@@ -3,8 +3,6 @@
 #include <limits>
 #include <string>
 
-#include "Conversions.h"
-#include "DateTime.h"
 #include "Decimal.h"
 #include "ExceptionAssert.h"
 #include "PlainObject.h"
@@ -26,9 +24,10 @@ TEST(Variant, StatesInvalidValidNil)
     VxVariant s;
     s.SetString("text");
     s.SetNil();
-    EXPECT_TRUE(s.IsNil());
-    EXPECT_EQ(ItemType_string, s.GetTypeAsEnum());
-    EXPECT_EQ("", s.GetString()); // the string is gone
+    EXPECT_EQ("", s.GetString()); // the string is gone, the type stays
+    const VxVariant nilCopy(s);
+    EXPECT_TRUE(nilCopy.IsNil());
+    EXPECT_EQ(ItemType_string, nilCopy.GetTypeAsEnum());
     s.Clear();
     EXPECT_FALSE(s.IsNil());
     EXPECT_FALSE(s.IsValid());
@@ -45,24 +44,12 @@ TEST(Variant, CopiesAreDeepOrCountedAndSelfAssignmentClears)
     copy = alias;
     EXPECT_FALSE(copy.IsValid());
 
-    VxVariant date;
-    date.SetDate(CConversions::dateFromString("2001-02-03", CWhitespaceUtils::WhitespaceRule_Collapse));
-    date.SetNil();
-    const VxVariant nilCopy(date);
-    EXPECT_TRUE(nilCopy.IsNil());
-    EXPECT_EQ(ItemType_date, nilCopy.GetTypeAsEnum());
-
     int destroyed = 0;
     {
-        VxVariant v;
-        v.SetXmlObject(nullptr);
-        v.Clear(); // releases nothing
-
         auto *object = new VxTest::CPlainObject(&destroyed);
+        VxVariant v;
         v.SetXmlObject(object);
         VxVariant other(v);
-        EXPECT_EQ(3, object->AddRef()); // two variants hold it
-        object->Release();
         v.Clear();
         EXPECT_EQ(0, destroyed);
         EXPECT_EQ(object, other.GetXmlObject());
@@ -110,7 +97,5 @@ TEST(Variant, TypeNamesAndTextConversions)
         VxVariant value;
         value.FromString(c.text, c.type, CWhitespaceUtils::WhitespaceRule_Preserve);
         EXPECT_EQ(c.text, value.ToString(nullptr)) << c.type;
-        VxVariant copy(value);
-        EXPECT_EQ(c.text, copy.ToString("")) << c.type;
     }
 }
