@@ -17,4 +17,19 @@ inline std::string Bytes(const VxXmlLib16::CBinaryData &data)
                             : std::string();
 }
 
+// A file name in the tests' scratch directory.
+inline std::string TempPath(const char *name) { return std::string(VX_TEST_TMP_DIR) + "/" + name; }
+
+// Sets a process-wide switch for one scope and restores it afterwards.
+template <void (*Set)(bool), bool (*Get)()>
+class SwitchScope
+{
+public:
+    explicit SwitchScope(bool on) : m_saved(Get()) { Set(on); }
+    ~SwitchScope() { Set(m_saved); }
+
+private:
+    bool m_saved;
+};
+
 } // namespace VxTest
