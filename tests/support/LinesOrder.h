@@ -17,7 +17,6 @@ class LinesOrder : public VxXmlLib16::CXmlObjectBase
 {
 public:
     explicit LinesOrder(std::size_t lines) : m_lines(lines) {}
-    ~LinesOrder() override = default;
 
     static std::string LineText(std::size_t i) { return "Caf\xC3\xA9 cr\xC3\xA8me #" + std::to_string(i); }
     static std::vector<std::string> LinesOf(std::size_t count)

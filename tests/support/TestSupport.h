@@ -6,8 +6,8 @@
 
 namespace VxTest {
 
-// Parses the text with Expat in namespace mode; returns the error text, or empty when
-// the text is well-formed.
+// Parses the text with Expat in namespace mode; returns the error text with its line, or
+// empty when the text is well-formed.
 std::string ExpatCheck(const std::string &text);
 
 // The bytes of a buffer; an empty buffer may have no data at all.
