@@ -32,7 +32,9 @@ std::string ReadFile(const std::string &path)
 
 } // namespace
 
-TEST(Streams, ToXmlStreamEncodesTheTextWithoutByteOrderMarkAndReadsBack)
+// UTF-8 and UTF-16 without a byte order mark, compressed bytes read back, and an encoding
+// without bytes fails.
+TEST(Streams, ToXmlStreamBytesByEncodingAndCompression)
 {
     Order order(20);
     EXPECT_EQ(Bytes(order.ToXmlStream(false, true, XmlEncoding_UTF8)), order.ToXml(false));
@@ -46,16 +48,14 @@ TEST(Streams, ToXmlStreamEncodesTheTextWithoutByteOrderMarkAndReadsBack)
                                              CSerializationContext::GetDefaultContext(), compression));
         EXPECT_EQ(back.ReadLines(), Order::LinesOf(20));
     }
-}
-
-TEST(Streams, EncodingsWithoutBytesFailAndASCIIOnlyPassesOnlyUtf8Through)
-{
-    Order order(1);
     const std::string unknown = "Unknown Encoding, select UTF-8 (contact our support team)";
     for (auto encoding : {XmlEncoding_None, static_cast<XmlEncoding>(-3)})
         EXPECT_TRUE(Throws<CVxException>([&] { order.ToXmlStream(true, true, encoding); }, unknown));
+}
 
-    // ASCIIOnly passes narrow bytes to UTF-8 as they stand, but not to UTF-16.
+// ASCIIOnly passes narrow bytes to UTF-8 as they stand, but not to UTF-16.
+TEST(Streams, ASCIIOnlyPassesNarrowBytesOnlyToUtf8)
+{
     LocalTextScope latin1(28591);
     CTextStream utf8(XmlEncoding_UTF8), utf16(XmlEncoding_UTF16);
     utf8.Append("\xE9");
