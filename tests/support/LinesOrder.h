@@ -41,7 +41,6 @@ protected:
         writer->StartElement("order", namespaceUri);
         for (std::size_t i = 0; i < m_lines; ++i) {
             writer->StartElement("line", namespaceUri);
-            writer->WriteAttribute("sku", "", "SKU-" + std::to_string(i % 99991), VxXmlLib16::ItemType_string);
             writer->WriteElementValue(LineText(i), VxXmlLib16::ItemType_string, false);
             writer->EndElement();
         }
