@@ -68,7 +68,6 @@ TEST(XmlDocumentFileTest, ChunkedReadingBuildsTheSameTreeAsWholeReading)
     CXmlDocument whole(context);
     whole.Load(path.c_str());
     const std::string expected = Fingerprint(whole.GetDocumentElement());
-    EXPECT_NE(expected.find("\xC3\xA9]]>"), std::string::npos);
 
     AsyncReading async(true);
     CXmlDocument chunked(context);
