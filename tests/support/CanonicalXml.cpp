@@ -1,5 +1,7 @@
 #include "CanonicalXml.h"
 
+#include "TestSupport.h"
+
 #include <expat.h>
 
 #include <algorithm>
@@ -65,13 +67,21 @@ std::string CanonicalXml(const std::string &text)
     XML_SetElementHandler(parser, &Canonicalizer::Start, &Canonicalizer::End);
     XML_SetCharacterDataHandler(parser, &Canonicalizer::Text);
     const bool ok = XML_Parse(parser, text.data(), static_cast<int>(text.size()), 1) != XML_STATUS_ERROR;
-    std::string result = ok ? std::string() : std::string("error: ") + XML_ErrorString(XML_GetErrorCode(parser));
+    std::string result = ok ? std::string()
+                            : std::string("error: ") + XML_ErrorString(XML_GetErrorCode(parser)) + " at line " +
+                                  std::to_string(XML_GetCurrentLineNumber(parser));
     XML_ParserFree(parser);
     if (!ok)
         return result;
     for (const std::string &line : canonicalizer.lines)
         result += line + "\n";
     return result;
+}
+
+std::string ExpatCheck(const std::string &text)
+{
+    const std::string canonical = CanonicalXml(text);
+    return canonical.rfind("error: ", 0) == 0 ? canonical.substr(7) : std::string();
 }
 
 } // namespace VxTest

@@ -17,7 +17,6 @@ class LinesOrder : public VxXmlLib16::CXmlObjectBase
 {
 public:
     explicit LinesOrder(std::size_t lines) : m_lines(lines) {}
-    ~LinesOrder() override = default;
 
     static std::string LineText(std::size_t i) { return "Caf\xC3\xA9 cr\xC3\xA8me #" + std::to_string(i); }
     static std::vector<std::string> LinesOf(std::size_t count)
@@ -42,7 +41,6 @@ protected:
         writer->StartElement("order", namespaceUri);
         for (std::size_t i = 0; i < m_lines; ++i) {
             writer->StartElement("line", namespaceUri);
-            writer->WriteAttribute("sku", "", "SKU-" + std::to_string(i % 99991), VxXmlLib16::ItemType_string);
             writer->WriteElementValue(LineText(i), VxXmlLib16::ItemType_string, false);
             writer->EndElement();
         }

@@ -15,8 +15,6 @@ class CTreeObject final : public VxXmlLib16::CXmlObjectBase
 {
 public:
     CTreeObject(std::string localName, std::string namespaceUri = std::string());
-    CTreeObject(const CTreeObject &other) = default;
-    CTreeObject &operator=(const CTreeObject &other) = default;
 
     CTreeObject &AddAttribute(std::string localName, std::string value, std::string namespaceUri = std::string());
     // Written before the children.

@@ -7,7 +7,7 @@
 using namespace VxXmlLib16;
 using VxTest::Throws;
 
-TEST(NamespaceAliasMap, OneAliasPerUriInUriOrder)
+TEST(NamespaceAliasMap, OneAliasPerUriInUriOrderAndASharedAliasResolvesToTheSmallestUri)
 {
     CNamespaceAliasMap map;
     map.Add("x", "b");
@@ -24,11 +24,7 @@ TEST(NamespaceAliasMap, OneAliasPerUriInUriOrder)
         EXPECT_TRUE(Throws<CVxInvalidParamException>([&] { map.GetNamespaceAt(index); },
                                                      FormatString("Namespace index [%d] out of range", index)));
     }
-}
-
-TEST(NamespaceAliasMap, SharedAliasResolvesToTheSmallestUri)
-{
-    CNamespaceAliasMap map;
+    // An alias given to two URIs resolves to the smaller one.
     map.Add("p", "urn:z");
     map.Add("p", "urn:m");
     EXPECT_EQ(map.GetNamespaceFromAlias("p"), "urn:m");

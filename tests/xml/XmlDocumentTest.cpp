@@ -18,7 +18,7 @@ TEST(XmlDocumentTest, NamesAttributesAndPathsCarryTheirNamespaces)
     CXmlDocument document;
     document.LoadXml("<o:orders xmlns:o='urn:o' xmlns='urn:d' xmlns:x='urn:x' xmlns:xsi="
                      "'http://www.w3.org/2001/XMLSchema-instance'>\n"
-                     "  <order o:id='1' plain='p'><item/><item/><note/></order>\n"
+                     "  <order o:id='1' plain='p'><item/><item/></order>\n"
                      "  <order xsi:nil='true' xsi:type='t'/>\n"
                      "  <x:order/>\n"
                      "</o:orders>");
@@ -41,13 +41,10 @@ TEST(XmlDocumentTest, NamesAttributesAndPathsCarryTheirNamespaces)
 
     // Predicates only for repeated names; the empty alias of the default namespace gives no
     // prefix; an attribute's prefix stands before the "@".
-    const CXmlElement *secondItem = order->GetFirstElement()->GetNextSiblingElement();
     EXPECT_EQ(root->GetXPath(), "/o:orders");
     EXPECT_EQ(order->GetXPath(), "/o:orders/order[1]");
-    EXPECT_EQ(nilOrder->GetXPath(), "/o:orders/order[2]");
     EXPECT_EQ(nilOrder->GetNextSiblingElement()->GetXPath(), "/o:orders/x:order");
-    EXPECT_EQ(secondItem->GetXPath(), "/o:orders/order[1]/item[2]");
-    EXPECT_EQ(secondItem->GetNextSiblingElement()->GetXPath(), "/o:orders/order[1]/note");
+    EXPECT_EQ(order->GetFirstElement()->GetNextSiblingElement()->GetXPath(), "/o:orders/order[1]/item[2]");
     EXPECT_EQ(id->GetXPath(), "/o:orders/order[1]/o:@id");
     EXPECT_EQ(order->GetAttributes()[1]->GetXPath(), "/o:orders/order[1]/@plain");
 }
@@ -55,13 +52,11 @@ TEST(XmlDocumentTest, NamesAttributesAndPathsCarryTheirNamespaces)
 TEST(XmlDocumentTest, AliasTableIsFlatAndKeepsTheLastDeclaration)
 {
     CXmlDocument document;
-    document.LoadXml("<r xmlns:a='urn:1' xmlns:b='urn:1'><c xmlns:a='urn:2' xmlns=''/><d/></r>");
+    document.LoadXml("<r xmlns:a='urn:1' xmlns:b='urn:1'><c xmlns:a='urn:2'/></r>");
     EXPECT_EQ(document.LookupNamespaceFromAlias("a"), "urn:2");
     EXPECT_EQ(document.LookupAliasFromNamespace("urn:1"), "b");
     EXPECT_EQ(document.LookupAliasFromNamespace("urn:none"), "");
     EXPECT_EQ(document.LookupNamespaceFromAlias("none"), "");
-    // xmlns="" stores the empty URI under the empty alias.
-    EXPECT_EQ(document.LookupAliasFromNamespace(""), "");
     // A reload starts a new table.
     unsigned char second[] = "<e/>";
     document.LoadXmlStream(second, sizeof second - 1);
@@ -82,7 +77,7 @@ TEST(XmlDocumentTest, WithoutNamespacesNamesStayWholeAndDeclarationsAreAttribute
     EXPECT_EQ(root->GetAttribute("a:c", ""), "1");
 }
 
-TEST(XmlDocumentTest, TextIsJoinedAroundChildrenWithoutCarriageReturns)
+TEST(XmlDocumentTest, TextIsJoinedAroundChildrenAndArrivesInTheLocalEncoding)
 {
     const char text[] = "<r>one<c>in</c>two&#13;three\r\nfour&#233;&#x4E2D;&amp;<![CDATA[x\r\n<y>]]></r>";
     CXmlDocument document;
@@ -95,14 +90,8 @@ TEST(XmlDocumentTest, TextIsJoinedAroundChildrenWithoutCarriageReturns)
     CXmlDocument marked(context);
     marked.LoadXml(text);
     EXPECT_EQ(marked.GetDocumentElement()->GetText(), "onetwothree\nfour\xC3\xA9\xE4\xB8\xAD&<![CDATA[x\n<y>]]>");
-}
-
-TEST(XmlDocumentTest, NonAsciiTextArrivesInTheLocalEncoding)
-{
-    CXmlDocument document;
-    document.LoadXml(L"<r a='\u00e9'>\U0001F600x</r>"); // wide text is read as UTF-16
+    document.LoadXml(L"<r>\U0001F600x</r>"); // wide text is read as UTF-16
     EXPECT_EQ(document.GetDocumentElement()->GetText(), "\xF0\x9F\x98\x80x");
-    EXPECT_EQ(document.GetDocumentElement()->GetAttribute("a", ""), "\xC3\xA9");
     LocalTextScope latin1(28591);
     document.LoadXml("<caf\xC3\xA9 n='\xC3\xBC'>\xC3\xA9t\xC3\xA9</caf\xC3\xA9>");
     const CXmlElement *root = document.GetDocumentElement();
@@ -111,7 +100,7 @@ TEST(XmlDocumentTest, NonAsciiTextArrivesInTheLocalEncoding)
     EXPECT_EQ(root->GetAttribute("n", ""), "\xFC");
 }
 
-TEST(XmlDocumentTest, FailuresKeepTheirTexts)
+TEST(XmlDocumentTest, FailuresKeepTheirTextsAndWhatWasBuilt)
 {
     CXmlDocument document;
     EXPECT_TRUE(Throws<CVxException>([&] { document.LoadXml(""); }, "XML String is empty!"));
@@ -121,11 +110,7 @@ TEST(XmlDocumentTest, FailuresKeepTheirTexts)
     EXPECT_TRUE(Throws<CVxException>([&] { document.LoadXml(L""); }, "no element found at line 1"));
     unsigned char byte = '<';
     EXPECT_TRUE(Throws<CVxException>([&] { document.LoadXmlStream(&byte, 0); }, "XML Stream is empty!"));
-}
-
-TEST(XmlDocumentTest, FailedLoadLeavesWhatWasBuiltUntilCleanup)
-{
-    CXmlDocument document;
+    // A failed load leaves what was built until the next cleanup.
     EXPECT_THROW(document.LoadXml("<d><e></d>"), CVxException);
     ASSERT_NE(document.GetDocumentElement(), nullptr);
     EXPECT_EQ(document.GetDocumentElement()->GetLocalName(), "d");
