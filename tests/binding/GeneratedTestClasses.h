@@ -25,6 +25,12 @@ namespace vx = VxXmlLib16;
 namespace vd = VxXmlLib16Data;
 
 constexpr const char *TestNs = "urn:t";
+inline const vx::CPrimitiveRestrictions NoFacets;
+constexpr auto Keep = vx::CWhitespaceUtils::WhitespaceRule_Preserve;
+
+// The class entry of a table, in the test namespace.
+vd::CParentElementInfo *ParentInfo(vd::XmlElementGroupType group, vd::XmlElementType type, const char *name,
+                                   bool failIfAttributeUnknown = true);
 
 // The three tables of one class, freed at exit the way generated code frees them.
 struct CTestTables
@@ -106,7 +112,6 @@ public:
     CNote();
     bool IsNil() const override { return m_nil; }
     void SetNil(bool nil) override { m_nil = nil; }
-    void Init() override;
 
 private:
     bool m_nil = false;

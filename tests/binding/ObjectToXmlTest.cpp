@@ -4,7 +4,6 @@
 
 #include "ExceptionAssert.h"
 #include "Orders.h"
-#include "PlainObject.h"
 #include "TestSupport.h"
 #include "TreeObject.h"
 
@@ -98,16 +97,6 @@ TEST_F(SampleDocument, ContextIndentCharsAndNoHeader)
 
 namespace {
 
-// Leaves its element open, as a faulty writer user would.
-class Unclosed final : public VxTest::CPlainObject
-{
-protected:
-    void ToXml_Int(CXmlWriter *writer, bool, const char *, const CSerializationContext &, bool) const override
-    {
-        writer->StartElement("open", "");
-    }
-};
-
 // Records each event as "type:payload", the payload being "item" for the added item,
 // "null", or "other" for anything else.
 class Recorder : public IEventSink
@@ -125,20 +114,14 @@ public:
 
 } // namespace
 
-TEST(ObjectToXml, MisuseOfTheWriterOrOfACollection)
-{
-    CSmartPtr<Unclosed> object = new Unclosed;
-    EXPECT_TRUE(Throws<CVxException>([&] { object->ToXml(); }, "An Element has not been closed."));
-    CSmartPtr<Orders::CLineTypeCol> collection = new Orders::CLineTypeCol("line", Orders::Namespace, 0, -1);
-    EXPECT_TRUE(Throws<CVxException>([&] { collection->ToXml(); },
-                                     "CXmlCollectionBase::GetTargetNamespace Should not be used from within a "
-                                     "Collection (program logic error)"));
-}
-
-TEST(CollectionEvents, EachEventCarriesItsTypeAndPayload)
+TEST(CollectionAsObject, IsNoDocumentAndFiresEventsWithTheirPayloads)
 {
     Recorder recorder; // outlives the collection, which fires events as it dies
     CSmartPtr<Orders::CLineTypeCol> collection = new Orders::CLineTypeCol("line", Orders::Namespace, 0, -1);
+    // A collection is never the top-level object of a document.
+    EXPECT_TRUE(Throws<CVxException>([&] { collection->ToXml(); },
+                                     "CXmlCollectionBase::GetTargetNamespace Should not be used from within a "
+                                     "Collection (program logic error)"));
     CSmartPtr<Orders::CLineType> line = Orders::CLineType::CreateInstance();
     recorder.item = static_cast<CXmlObjectBase *>(line);
     collection->AddEventListener(&recorder);
