@@ -125,7 +125,7 @@ TEST(NamespaceRule, TokensAndTheFirstTokenRule)
         "Invalid namespace [urn:a]. The namespace must be one of [##other] where the target namespace is [urn:a]."));
 }
 
-TEST(ChoiceHelpers, SelectElement)
+TEST(ChoiceHelpers, OneMemberAtATime)
 {
     CSmartPtr<Helpers> x(new Helpers("x"));
     std::string selected;
@@ -140,11 +140,8 @@ TEST(ChoiceHelpers, SelectElement)
     EXPECT_EQ("", selected);
     Helpers::Choice_SelectElement("b", nullptr, selected); // the first selection may be null
     EXPECT_EQ("b", selected);
-}
 
-TEST(ChoiceHelpers, CollectionChangedAndSetElementValid)
-{
-    std::string selected;
+    selected.clear();
     Helpers::Choice_CollectionChanged("a", 0, selected);
     EXPECT_EQ("", selected);
     Helpers::Choice_CollectionChanged("a", 2, selected);

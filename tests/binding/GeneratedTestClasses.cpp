@@ -155,7 +155,7 @@ CBasket::CBasket() : CTestObject(BasketTables(), Count) { Init(); }
 void CBasket::CreateChildren()
 {
     Property(Owner).SetXmlObject(new CPerson());
-    Property(Items).SetXmlCollection(new CTestObjectCol<CItem>("item", TestNs, 1, 3));
+    Property(Items).SetXmlCollection(new VxGenerated::CGeneratedCol<CItem>("item", TestNs, 1, 3));
     Property(Pay).SetXmlObject(new CTestObject(PaymentTables(), 2));
 }
 
@@ -163,8 +163,8 @@ CPick::CPick() : CTestObject(PickTables(), Count) { Init(); }
 
 void CPick::CreateChildren()
 {
-    Property(Items).SetXmlCollection(new CTestObjectCol<CItem>("item", TestNs, 1, -1));
-    Property(People).SetXmlCollection(new CTestObjectCol<CPerson>("person", TestNs, 1, -1));
+    Property(Items).SetXmlCollection(new VxGenerated::CGeneratedCol<CItem>("item", TestNs, 1, -1));
+    Property(People).SetXmlCollection(new VxGenerated::CGeneratedCol<CPerson>("person", TestNs, 1, -1));
 }
 
 } // namespace VxTest

@@ -80,9 +80,6 @@ private:
     std::vector<vx::VxVariant> m_properties;
 };
 
-template <class T>
-using CTestObjectCol = VxGenerated::CGeneratedCol<T>;
-
 const char *ColorToString(int value);
 int ColorFromString(const char *text);
 
@@ -122,10 +119,10 @@ class CBasket final : public CTestObject
 public:
     enum { Owner, Items, Pay, Memo, Count };
     CBasket();
-    CTestObjectCol<CItem> *Lines()
+    VxGenerated::CGeneratedCol<CItem> *Lines()
     {
         vx::CXmlCollectionBase *lines = Property(Items).GetXmlCollection();
-        return static_cast<CTestObjectCol<CItem> *>(lines);
+        return static_cast<VxGenerated::CGeneratedCol<CItem> *>(lines);
     }
 
 protected:

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <regex>
 #include <string>
@@ -21,9 +22,8 @@ namespace {
 {
     if (expected == actual)
         return ::testing::AssertionSuccess();
-    std::size_t at = 0;
-    while (at < expected.size() && at < actual.size() && expected[at] == actual[at])
-        ++at;
+    const std::size_t at = std::mismatch(expected.begin(), expected.end(), actual.begin(), actual.end()).first -
+                           expected.begin();
     const std::size_t from = at < 80 ? 0 : at - 80;
     return ::testing::AssertionFailure() << "texts part at byte " << at << ":\n" << expected.substr(from, 160)
                                          << "\n----\n" << actual.substr(from, 160);
