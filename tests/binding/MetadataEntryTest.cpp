@@ -163,7 +163,6 @@ TEST(MetadataEntry, WildcardDefaultNamespace)
     EXPECT_EQ("urn:o", CExposedEntry::GetAnyDefaultNamespace("##any", "urn:o", "urn:d"));
     EXPECT_EQ("", CExposedEntry::GetAnyDefaultNamespace("##other", "urn:o", "urn:d"));
     EXPECT_EQ("DefaultNamespace", CExposedEntry::GetAnyDefaultNamespace("##other", "", "urn:d"));
-    EXPECT_EQ("", CExposedEntry::GetAnyDefaultNamespace("##local", "urn:o", "urn:d"));
     EXPECT_EQ("urn:d", CExposedEntry::GetAnyDefaultNamespace("##targetNamespace ##local", "urn:o", "urn:d"));
     EXPECT_EQ("", CExposedEntry::GetAnyDefaultNamespace("urn:x urn:y", "urn:o", "urn:d"));
 }

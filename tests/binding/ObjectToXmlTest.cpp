@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <regex>
 #include <string>
 
 #include "ExceptionAssert.h"
@@ -44,9 +45,7 @@ protected:
     // its line feeds turned into CR LF for the second, and must parse.
     void ExpectWrittenAs(bool formatted, const std::string &expectedWithLf)
     {
-        std::string expectedWithCrLf = expectedWithLf;
-        for (std::size_t at = 0; (at = expectedWithCrLf.find('\n', at)) != std::string::npos; at += 2)
-            expectedWithCrLf.replace(at, 1, "\r\n");
+        const std::string expectedWithCrLf = std::regex_replace(expectedWithLf, std::regex("\n"), "\r\n");
         const std::pair<EOLType, std::string> cases[] = {{EOLType_LF, expectedWithLf},
                                                          {EOLType_CRLF, expectedWithCrLf}};
         for (const auto &[eol, expected] : cases) {
@@ -64,6 +63,21 @@ const char *const Prolog = "<?xml version=\"1.0\"?>\n"
                            "<?xml-stylesheet href=\"s.xsl\"?>\n\n";
 const char *const RootTag = "<doc xmlns=\"urn:d\" xmlns:ex=\"urn:ex\" xmlns:zz=\"urn:zz\" id=\"7\" "
                             "ex:lang=\"a&lt;b&amp;&quot;c&quot;\" xml:lang=\"en\">";
+
+// Records each event as "type:payload", the payload being "item" for the added item,
+// "null", or "other" for anything else.
+class Recorder : public IEventSink
+{
+public:
+    void OnEvent(CXmlObjectBase *eventSource, MsgType type, void *data) override
+    {
+        source = eventSource;
+        events.push_back(std::to_string(type) + (data == item ? ":item" : data ? ":other" : ":null"));
+    }
+    CXmlObjectBase *source = nullptr;
+    const void *item = nullptr;
+    std::vector<std::string> events;
+};
 
 } // namespace
 
@@ -94,25 +108,6 @@ TEST_F(SampleDocument, ContextIndentCharsAndNoHeader)
     EXPECT_EQ(text.substr(0, start.size()), start);
     EXPECT_NE(text.find("\n    <AA:sub>1</AA:sub>\n"), std::string::npos) << text;
 }
-
-namespace {
-
-// Records each event as "type:payload", the payload being "item" for the added item,
-// "null", or "other" for anything else.
-class Recorder : public IEventSink
-{
-public:
-    void OnEvent(CXmlObjectBase *eventSource, MsgType type, void *data) override
-    {
-        source = eventSource;
-        events.push_back(std::to_string(type) + (data == item ? ":item" : data ? ":other" : ":null"));
-    }
-    CXmlObjectBase *source = nullptr;
-    const void *item = nullptr;
-    std::vector<std::string> events;
-};
-
-} // namespace
 
 TEST(CollectionAsObject, IsNoDocumentAndFiresEventsWithTheirPayloads)
 {
