@@ -7,18 +7,16 @@ namespace VxTest {
 using namespace VxXmlLib16;
 using namespace VxXmlLib16Data;
 
-namespace {
-
-const CPrimitiveRestrictions NoFacets;
-const char *const ColorNames[] = {"red", "green"};
-constexpr auto Keep = CWhitespaceUtils::WhitespaceRule_Preserve;
-
-CParentElementInfo *Info(XmlElementGroupType group, XmlElementType type, const char *name,
-                         bool failIfAttributeUnknown = true)
+CParentElementInfo *ParentInfo(XmlElementGroupType group, XmlElementType type, const char *name,
+                               bool failIfAttributeUnknown)
 {
     return new CParentElementInfo(group, type, name, TestNs, failIfAttributeUnknown, false, -1, ItemType_Invalid,
                                   nullptr, false);
 }
+
+namespace {
+
+const char *const ColorNames[] = {"red", "green"};
 
 template <class T>
 CSmartPtr<CXmlObjectBase> Make(int, const char *)
@@ -29,7 +27,7 @@ CSmartPtr<CXmlObjectBase> Make(int, const char *)
 const CTestTables &ItemTables()
 {
     static const CTestTables tables{
-        Info(XmlElementGroupType_Sequence, XmlElementType_Element, "item"),
+        ParentInfo(XmlElementGroupType_Sequence, XmlElementType_Element, "item"),
         Table<CElementInfo>({new CElementInfoSeqPrimMnd("qty", TestNs, CItem::Qty, false, ItemType_i4, nullptr, Keep,
                                                         CPrimitiveRestrictions("", -1, -1, "1", "", "", "", -1, -1, -1),
                                                         nullptr),
@@ -48,7 +46,7 @@ const CTestTables &ItemTables()
 const CTestTables &PersonTables()
 {
     static const CTestTables tables{
-        Info(XmlElementGroupType_All, XmlElementType_Element, "person"),
+        ParentInfo(XmlElementGroupType_All, XmlElementType_Element, "person"),
         Table<CElementInfo>({new CElementInfoAllPrimMnd("name", TestNs, CPerson::Name, false, ItemType_string,
                                                         nullptr, Keep, NoFacets, nullptr),
                              new CElementInfoAllPrimOpt("age", TestNs, CPerson::Age, false, ItemType_i4, nullptr,
@@ -60,7 +58,7 @@ const CTestTables &PersonTables()
 const CTestTables &PaymentTables()
 {
     static const CTestTables tables{
-        Info(XmlElementGroupType_Choice, XmlElementType_Pseudo, "payment", false),
+        ParentInfo(XmlElementGroupType_Choice, XmlElementType_Pseudo, "payment", false),
         Table<CElementInfo>({new CElementInfoChoicePrimOpt("card", TestNs, 0, false, ItemType_string, nullptr, Keep,
                                                            NoFacets, nullptr),
                              new CElementInfoChoicePrimOpt("cash", TestNs, 1, false, ItemType_decimal, nullptr, Keep,
@@ -74,7 +72,7 @@ CSmartPtr<CXmlObjectBase> MakePayment(int, const char *) { return new CTestObjec
 const CTestTables &NoteTables()
 {
     static const CTestTables tables{
-        Info(XmlElementGroupType_Sequence, XmlElementType_Element, "memo"),
+        ParentInfo(XmlElementGroupType_Sequence, XmlElementType_Element, "memo"),
         Table<CElementInfo>({new CElementInfoSeqPrimOpt("text", TestNs, CNote::Text, false, ItemType_string, nullptr,
                                                         Keep, NoFacets, nullptr)}),
         Table<CAttributeInfo>({})};
@@ -84,7 +82,7 @@ const CTestTables &NoteTables()
 const CTestTables &BasketTables()
 {
     static const CTestTables tables{
-        Info(XmlElementGroupType_Sequence, XmlElementType_Element, "basket", false),
+        ParentInfo(XmlElementGroupType_Sequence, XmlElementType_Element, "basket", false),
         Table<CElementInfo>(
             {new CElementInfoSeqClsMnd("person", TestNs, CBasket::Owner, XmlElementType_Element, Make<CPerson>, 0,
                                        false),
@@ -99,7 +97,7 @@ const CTestTables &BasketTables()
 const CTestTables &PickTables()
 {
     static const CTestTables tables{
-        Info(XmlElementGroupType_Choice, XmlElementType_Element, "pick"),
+        ParentInfo(XmlElementGroupType_Choice, XmlElementType_Element, "pick"),
         Table<CElementInfo>({new CElementInfoChoiceClsCol("item", TestNs, CPick::Items, XmlElementType_Element),
                              new CElementInfoChoiceClsCol("person", TestNs, CPick::People, XmlElementType_Element)}),
         Table<CAttributeInfo>({})};
@@ -131,11 +129,10 @@ CTestObject::CTestObject(const CTestTables &tables, int propertyCount)
 
 void CTestObject::AccessProperty(int propertyIndex, bool read, VxVariant &value)
 {
-    if (read) {
+    if (read)
         value = m_properties.at(propertyIndex);
-        return;
-    }
-    m_properties.at(propertyIndex) = value;
+    else
+        m_properties.at(propertyIndex) = value;
 }
 
 void CTestObject::Init()
@@ -153,18 +150,12 @@ void CPerson::CreateChildren() { Property(Extra).SetXmlCollection(new CAttribute
 
 CNote::CNote() : CTestObject(NoteTables(), Count) { Init(); }
 
-void CNote::Init()
-{
-    CTestObject::Init();
-    m_nil = false;
-}
-
 CBasket::CBasket() : CTestObject(BasketTables(), Count) { Init(); }
 
 void CBasket::CreateChildren()
 {
     Property(Owner).SetXmlObject(new CPerson());
-    Property(Items).SetXmlCollection(new CTestObjectCol<CItem>("item", TestNs, 1, 3));
+    Property(Items).SetXmlCollection(new VxGenerated::CGeneratedCol<CItem>("item", TestNs, 1, 3));
     Property(Pay).SetXmlObject(new CTestObject(PaymentTables(), 2));
 }
 
@@ -172,8 +163,8 @@ CPick::CPick() : CTestObject(PickTables(), Count) { Init(); }
 
 void CPick::CreateChildren()
 {
-    Property(Items).SetXmlCollection(new CTestObjectCol<CItem>("item", TestNs, 1, -1));
-    Property(People).SetXmlCollection(new CTestObjectCol<CPerson>("person", TestNs, 1, -1));
+    Property(Items).SetXmlCollection(new VxGenerated::CGeneratedCol<CItem>("item", TestNs, 1, -1));
+    Property(People).SetXmlCollection(new VxGenerated::CGeneratedCol<CPerson>("person", TestNs, 1, -1));
 }
 
 } // namespace VxTest

@@ -25,6 +25,12 @@ namespace vx = VxXmlLib16;
 namespace vd = VxXmlLib16Data;
 
 constexpr const char *TestNs = "urn:t";
+inline const vx::CPrimitiveRestrictions NoFacets;
+constexpr auto Keep = vx::CWhitespaceUtils::WhitespaceRule_Preserve;
+
+// The class entry of a table, in the test namespace.
+vd::CParentElementInfo *ParentInfo(vd::XmlElementGroupType group, vd::XmlElementType type, const char *name,
+                                   bool failIfAttributeUnknown = true);
 
 // The three tables of one class, freed at exit the way generated code frees them.
 struct CTestTables
@@ -74,9 +80,6 @@ private:
     std::vector<vx::VxVariant> m_properties;
 };
 
-template <class T>
-using CTestObjectCol = VxGenerated::CGeneratedCol<T>;
-
 const char *ColorToString(int value);
 int ColorFromString(const char *text);
 
@@ -106,7 +109,6 @@ public:
     CNote();
     bool IsNil() const override { return m_nil; }
     void SetNil(bool nil) override { m_nil = nil; }
-    void Init() override;
 
 private:
     bool m_nil = false;
@@ -117,10 +119,10 @@ class CBasket final : public CTestObject
 public:
     enum { Owner, Items, Pay, Memo, Count };
     CBasket();
-    CTestObjectCol<CItem> *Lines()
+    VxGenerated::CGeneratedCol<CItem> *Lines()
     {
         vx::CXmlCollectionBase *lines = Property(Items).GetXmlCollection();
-        return static_cast<CTestObjectCol<CItem> *>(lines);
+        return static_cast<VxGenerated::CGeneratedCol<CItem> *>(lines);
     }
 
 protected:

@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <regex>
 #include <string>
 
 #include "ExceptionAssert.h"
 #include "Orders.h"
-#include "PlainObject.h"
 #include "TestSupport.h"
 #include "TreeObject.h"
 
@@ -45,9 +45,7 @@ protected:
     // its line feeds turned into CR LF for the second, and must parse.
     void ExpectWrittenAs(bool formatted, const std::string &expectedWithLf)
     {
-        std::string expectedWithCrLf = expectedWithLf;
-        for (std::size_t at = 0; (at = expectedWithCrLf.find('\n', at)) != std::string::npos; at += 2)
-            expectedWithCrLf.replace(at, 1, "\r\n");
+        const std::string expectedWithCrLf = std::regex_replace(expectedWithLf, std::regex("\n"), "\r\n");
         const std::pair<EOLType, std::string> cases[] = {{EOLType_LF, expectedWithLf},
                                                          {EOLType_CRLF, expectedWithCrLf}};
         for (const auto &[eol, expected] : cases) {
@@ -65,6 +63,21 @@ const char *const Prolog = "<?xml version=\"1.0\"?>\n"
                            "<?xml-stylesheet href=\"s.xsl\"?>\n\n";
 const char *const RootTag = "<doc xmlns=\"urn:d\" xmlns:ex=\"urn:ex\" xmlns:zz=\"urn:zz\" id=\"7\" "
                             "ex:lang=\"a&lt;b&amp;&quot;c&quot;\" xml:lang=\"en\">";
+
+// Records each event as "type:payload", the payload being "item" for the added item,
+// "null", or "other" for anything else.
+class Recorder : public IEventSink
+{
+public:
+    void OnEvent(CXmlObjectBase *eventSource, MsgType type, void *data) override
+    {
+        source = eventSource;
+        events.push_back(std::to_string(type) + (data == item ? ":item" : data ? ":other" : ":null"));
+    }
+    CXmlObjectBase *source = nullptr;
+    const void *item = nullptr;
+    std::vector<std::string> events;
+};
 
 } // namespace
 
@@ -96,49 +109,14 @@ TEST_F(SampleDocument, ContextIndentCharsAndNoHeader)
     EXPECT_NE(text.find("\n    <AA:sub>1</AA:sub>\n"), std::string::npos) << text;
 }
 
-namespace {
-
-// Leaves its element open, as a faulty writer user would.
-class Unclosed final : public VxTest::CPlainObject
-{
-protected:
-    void ToXml_Int(CXmlWriter *writer, bool, const char *, const CSerializationContext &, bool) const override
-    {
-        writer->StartElement("open", "");
-    }
-};
-
-// Records each event as "type:payload", the payload being "item" for the added item,
-// "null", or "other" for anything else.
-class Recorder : public IEventSink
-{
-public:
-    void OnEvent(CXmlObjectBase *eventSource, MsgType type, void *data) override
-    {
-        source = eventSource;
-        events.push_back(std::to_string(type) + (data == item ? ":item" : data ? ":other" : ":null"));
-    }
-    CXmlObjectBase *source = nullptr;
-    const void *item = nullptr;
-    std::vector<std::string> events;
-};
-
-} // namespace
-
-TEST(ObjectToXml, MisuseOfTheWriterOrOfACollection)
-{
-    CSmartPtr<Unclosed> object = new Unclosed;
-    EXPECT_TRUE(Throws<CVxException>([&] { object->ToXml(); }, "An Element has not been closed."));
-    CSmartPtr<Orders::CLineTypeCol> collection = new Orders::CLineTypeCol("line", Orders::Namespace, 0, -1);
-    EXPECT_TRUE(Throws<CVxException>([&] { collection->ToXml(); },
-                                     "CXmlCollectionBase::GetTargetNamespace Should not be used from within a "
-                                     "Collection (program logic error)"));
-}
-
-TEST(CollectionEvents, EachEventCarriesItsTypeAndPayload)
+TEST(CollectionAsObject, IsNoDocumentAndFiresEventsWithTheirPayloads)
 {
     Recorder recorder; // outlives the collection, which fires events as it dies
     CSmartPtr<Orders::CLineTypeCol> collection = new Orders::CLineTypeCol("line", Orders::Namespace, 0, -1);
+    // A collection is never the top-level object of a document.
+    EXPECT_TRUE(Throws<CVxException>([&] { collection->ToXml(); },
+                                     "CXmlCollectionBase::GetTargetNamespace Should not be used from within a "
+                                     "Collection (program logic error)"));
     CSmartPtr<Orders::CLineType> line = Orders::CLineType::CreateInstance();
     recorder.item = static_cast<CXmlObjectBase *>(line);
     collection->AddEventListener(&recorder);

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <regex>
 #include <string>
@@ -21,9 +22,8 @@ namespace {
 {
     if (expected == actual)
         return ::testing::AssertionSuccess();
-    std::size_t at = 0;
-    while (at < expected.size() && at < actual.size() && expected[at] == actual[at])
-        ++at;
+    const std::size_t at = std::mismatch(expected.begin(), expected.end(), actual.begin(), actual.end()).first -
+                           expected.begin();
     const std::size_t from = at < 80 ? 0 : at - 80;
     return ::testing::AssertionFailure() << "texts part at byte " << at << ":\n" << expected.substr(from, 160)
                                          << "\n----\n" << actual.substr(from, 160);
@@ -126,7 +126,6 @@ TEST(OrdersRoundTrip, SubstitutionFollowsTheTypeAttribute)
 TEST(OrdersRoundTrip, FailuresNameTheirPlace)
 {
     std::string text = VxTest::OrdersDocument(2, 5, false);
-    CSmartPtr<Orders::COrdersType> orders = ReadOrders(text);
     const std::size_t quantity = text.find("<quantity>") + 10;
     text.replace(quantity, text.find('<', quantity) - quantity, "0");
     // On reading the path is named once, by the element or attribute whose setter refused
@@ -138,11 +137,4 @@ TEST(OrdersRoundTrip, FailuresNameTheirPlace)
     EXPECT_EQ((Levels{"Exception: Failed to set the property value [bad].\nPath: /orders/order[1]/@id",
                       "InvalidValue: Invalid Value for id [bad]."}),
               Chain([&] { ReadOrders(text); }));
-    // On writing, one level per element.
-    orders->GetOrder()->Item(1)->GetLine()->Item(0)->SetSku("no sku");
-    EXPECT_EQ((Levels{"Validation: Failed to convert the element [orders] to XML",
-                      "Validation: Failed to convert the element [order] to XML",
-                      "Validation: Failed to convert the element [line] to XML",
-                      "InvalidValue: Invalid Value for sku [no sku]."}),
-              Chain([&] { orders->ToXml(); }));
 }
