@@ -1,6 +1,8 @@
 #pragma once
 // Date and duration values from text, for the date and duration tests.
 
+#include <gtest/gtest.h>
+
 #include <string>
 
 #include "DateTimeSpan.h"
@@ -27,6 +29,18 @@ inline VxXmlLib16::CDateTimeSpan SpanValue(const char *text)
     VxXmlLib16::CDateTimeSpan span;
     span.ParseXSDDuration(text);
     return span;
+}
+
+// The comparison operators of dates and spans agree with CompareTo.
+template <class Value>
+void ExpectOperatorsAgree(VxXmlLib16::CDateTime::DTCompareResult result, const Value &left, const Value &right)
+{
+    using VxXmlLib16::CDateTime;
+    EXPECT_EQ(result, left.CompareTo(right));
+    EXPECT_EQ(result == CDateTime::dt_equal, left == right);
+    EXPECT_EQ(result != CDateTime::dt_equal, left != right);
+    EXPECT_EQ(result == CDateTime::dt_less, left < right);
+    EXPECT_EQ(result == CDateTime::dt_greater, left > right);
 }
 
 } // namespace VxTest

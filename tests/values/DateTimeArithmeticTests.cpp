@@ -75,11 +75,7 @@ TEST(DateTimeArithmetic, Comparison)
         SCOPED_TRACE(std::string(c.left) + " " + c.right);
         const CDateTime left = DateValue(c.left);
         const CDateTime right = DateValue(c.right);
-        EXPECT_EQ(c.result, left.CompareTo(right));
-        EXPECT_EQ(c.result == CDateTime::dt_equal, left == right);
-        EXPECT_EQ(c.result != CDateTime::dt_equal, left != right);
-        EXPECT_EQ(c.result == CDateTime::dt_less, left < right);
-        EXPECT_EQ(c.result == CDateTime::dt_greater, left > right);
+        VxTest::ExpectOperatorsAgree(c.result, left, right);
         EXPECT_EQ(c.result == CDateTime::dt_equal || c.result == CDateTime::dt_less, left <= right);
         EXPECT_EQ(c.result == CDateTime::dt_equal || c.result == CDateTime::dt_greater, left >= right);
     }

@@ -73,12 +73,6 @@ TEST(DateTimeSpan, OrderOverFourReferenceDates)
     };
     for (const auto &c : cases) {
         SCOPED_TRACE(std::string(c.left) + " " + c.right);
-        const CDateTimeSpan left = SpanValue(c.left);
-        const CDateTimeSpan right = SpanValue(c.right);
-        EXPECT_EQ(c.result, left.CompareTo(right));
-        EXPECT_EQ(c.result == CDateTime::dt_equal, left == right);
-        EXPECT_EQ(c.result != CDateTime::dt_equal, left != right);
-        EXPECT_EQ(c.result == CDateTime::dt_less, left < right);
-        EXPECT_EQ(c.result == CDateTime::dt_greater, left > right);
+        VxTest::ExpectOperatorsAgree(c.result, SpanValue(c.left), SpanValue(c.right));
     }
 }
