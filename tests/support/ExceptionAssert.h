@@ -31,19 +31,19 @@ template <class Expected, class Action>
 // message with its path. Empty when nothing was thrown.
 inline std::vector<std::string> Chain(const std::function<void()> &action)
 {
-    using namespace VxXmlLib16;
+    namespace vx = VxXmlLib16;
     static const std::pair<const std::type_info *, const char *> kinds[] = {
-        {&typeid(CVxException), "Exception"},
-        {&typeid(CVxValidationException), "Validation"},
-        {&typeid(CVxInvalidValueException), "InvalidValue"},
-        {&typeid(CVxInvalidNamespaceException), "InvalidNamespace"},
-        {&typeid(CVxInvalidParamException), "InvalidParam"},
-        {&typeid(CVxInvalidStateException), "InvalidState"}};
+        {&typeid(vx::CVxException), "Exception"},
+        {&typeid(vx::CVxValidationException), "Validation"},
+        {&typeid(vx::CVxInvalidValueException), "InvalidValue"},
+        {&typeid(vx::CVxInvalidNamespaceException), "InvalidNamespace"},
+        {&typeid(vx::CVxInvalidParamException), "InvalidParam"},
+        {&typeid(vx::CVxInvalidStateException), "InvalidState"}};
     std::vector<std::string> levels;
     try {
         action();
-    } catch (const CVxException &e) {
-        for (const CVxException *level = &e; level; level = level->GetInnerException()) {
+    } catch (const vx::CVxException &e) {
+        for (const vx::CVxException *level = &e; level; level = level->GetInnerException()) {
             std::string kind = "Other";
             for (const auto &[type, name] : kinds)
                 if (typeid(*level) == *type)
